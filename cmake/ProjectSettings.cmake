@@ -1,0 +1,25 @@
+# One place for the language standard, warnings and defines: every target links
+# purrlodge_settings and gets the same rules.
+add_library(purrlodge_settings INTERFACE)
+target_compile_features(purrlodge_settings INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+if(MSVC)
+  target_compile_options(purrlodge_settings INTERFACE /W4 /WX /permissive-)
+else()
+  target_compile_options(purrlodge_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wold-style-cast -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+endif()
+
+target_compile_definitions(purrlodge_settings INTERFACE
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_URL_CAST_FROM_STRING
+  QT_USE_QSTRINGBUILDER)
+
+if(PURRLODGE_SANITIZE)
+  target_compile_options(purrlodge_settings INTERFACE
+    -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(purrlodge_settings INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace purrlodge {
+
+// Drive letters as the person types them, mapped to folders of this machine.
+class Drives {
+public:
+    virtual ~Drives() = default;
+
+    // The root folder a drive letter names (ending in the separator), or
+    // nothing when the letter is not set up on this machine.
+    [[nodiscard]] virtual std::optional<std::string> rootOf(char letter) const = 0;
+
+    // Free bytes on the file system holding the folder, or nothing when unknown.
+    [[nodiscard]] virtual std::optional<std::uint64_t>
+    freeBytes(const std::string& folder) const = 0;
+};
+
+} // namespace purrlodge

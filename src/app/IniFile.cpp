@@ -1,0 +1,300 @@
+#include "app/IniFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace purrlodge {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view blanks = " \t";
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos)
+        return {};
+    const auto last = text.find_last_not_of(blanks);
+    return text.substr(first, last - first + 1);
+}
+
+// What one line holds. For a key line, the value is content[valueBegin, valueEnd).
+struct LineMeaning {
+    enum class Kind { Other, Section, Key };
+    Kind kind = Kind::Other;
+    std::string_view name;
+    std::size_t valueBegin = 0;
+    std::size_t valueEnd = 0;
+};
+
+LineMeaning meaningOf(std::string_view content)
+{
+    LineMeaning meaning;
+    const std::string_view text = trimmed(content);
+    if (text.empty() || text.front() == ';' || text.front() == '#')
+        return meaning;
+    if (text.front() == '[') {
+        // A header without its ']' still names a section, to the end of the line.
+        const std::string_view inside = text.substr(1);
+        meaning.kind = LineMeaning::Kind::Section;
+        meaning.name = trimmed(inside.substr(0, inside.find(']')));
+        return meaning;
+    }
+    const auto equals = content.find('=');
+    if (equals == std::string_view::npos)
+        return meaning;
+    meaning.name = trimmed(content.substr(0, equals));
+    if (meaning.name.empty())
+        return meaning;
+    meaning.kind = LineMeaning::Kind::Key;
+    const auto first = content.find_first_not_of(blanks, equals + 1);
+    if (first == std::string_view::npos) {
+        meaning.valueBegin = meaning.valueEnd = content.size();
+    } else {
+        meaning.valueBegin = first;
+        meaning.valueEnd = content.find_last_not_of(blanks) + 1;
+    }
+    return meaning;
+}
+
+bool isBlank(std::string_view content)
+{
+    return trimmed(content).empty();
+}
+
+std::string reasonOf(int error)
+{
+    return std::generic_category().message(error);
+}
+
+std::FILE* openFile(const fs::path& file, bool forWriting)
+{
+#ifdef _WIN32
+    std::FILE* stream = nullptr;
+    _wfopen_s(&stream, file.c_str(), forWriting ? L"wb" : L"rb");
+    return stream;
+#else
+    return std::fopen(file.c_str(), forWriting ? "wb" : "rb");
+#endif
+}
+
+// Writes the bytes and makes sure they reached the disk before the caller
+// renames the file into place; otherwise a crash could leave an empty file.
+bool writeToDisk(const fs::path& file, const std::string& bytes, std::string& reason)
+{
+    std::FILE* stream = openFile(file, true);
+    if (stream == nullptr) {
+        reason = reasonOf(errno);
+        return false;
+    }
+    bool written = std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size() &&
+                   std::fflush(stream) == 0;
+#ifdef _WIN32
+    written = written && _commit(_fileno(stream)) == 0;
+#else
+    written = written && fsync(fileno(stream)) == 0;
+#endif
+    int error = written ? 0 : errno;
+    if (std::fclose(stream) != 0 && written) {
+        written = false;
+        error = errno;
+    }
+    if (!written)
+        reason = reasonOf(error != 0 ? error : EIO);
+    return written;
+}
+
+char asciiLower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+bool equalIgnoringAsciiCase(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (asciiLower(a[i]) != asciiLower(b[i]))
+            return false;
+    }
+    return true;
+}
+
+IniFile IniFile::parse(std::string_view text)
+{
+    IniFile file;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const auto newline = text.find('\n', start);
+        if (newline == std::string_view::npos) {
+            file.lines_.push_back({std::string(text.substr(start)), {}});
+            break;
+        }
+        const bool crlf = newline > start && text[newline - 1] == '\r';
+        const std::size_t contentEnd = crlf ? newline - 1 : newline;
+        file.lines_.push_back({std::string(text.substr(start, contentEnd - start)),
+                               crlf ? std::string("\r\n") : std::string("\n")});
+        start = newline + 1;
+    }
+    if (!file.lines_.empty() && !file.lines_.front().ending.empty())
+        file.newline_ = file.lines_.front().ending;
+    return file;
+}
+
+std::optional<IniFile> IniFile::load(const fs::path& file, std::string& reason)
+{
+    std::FILE* stream = openFile(file, false);
+    if (stream == nullptr) {
+        const int error = errno;
+        if (error == ENOENT)
+            return IniFile{};
+        reason = reasonOf(error);
+        return std::nullopt;
+    }
+    std::string bytes;
+    char buffer[4096];
+    std::size_t count = 0;
+    while ((count = std::fread(buffer, 1, sizeof buffer, stream)) > 0)
+        bytes.append(buffer, count);
+    const bool failed = std::ferror(stream) != 0;
+    const int error = errno;
+    std::fclose(stream);
+    if (failed) {
+        reason = reasonOf(error != 0 ? error : EIO);
+        return std::nullopt;
+    }
+    return parse(bytes);
+}
+
+std::string IniFile::text() const
+{
+    std::string bytes;
+    for (const Line& line : lines_)
+        bytes += line.content + line.ending;
+    return bytes;
+}
+
+std::optional<std::size_t> IniFile::findSection(std::string_view section) const
+{
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const LineMeaning meaning = meaningOf(lines_[i].content);
+        if (meaning.kind == LineMeaning::Kind::Section &&
+            equalIgnoringAsciiCase(meaning.name, section))
+            return i;
+    }
+    return std::nullopt;
+}
+
+std::size_t IniFile::sectionEnd(std::size_t header) const
+{
+    std::size_t i = header + 1;
+    while (i < lines_.size() && meaningOf(lines_[i].content).kind != LineMeaning::Kind::Section)
+        ++i;
+    return i;
+}
+
+std::optional<std::string> IniFile::value(std::string_view section, std::string_view key) const
+{
+    const auto header = findSection(section);
+    if (!header)
+        return std::nullopt;
+    const std::size_t end = sectionEnd(*header);
+    for (std::size_t i = *header + 1; i < end; ++i) {
+        const std::string& content = lines_[i].content;
+        const LineMeaning meaning = meaningOf(content);
+        if (meaning.kind == LineMeaning::Kind::Key && equalIgnoringAsciiCase(meaning.name, key))
+            return content.substr(meaning.valueBegin, meaning.valueEnd - meaning.valueBegin);
+    }
+    return std::nullopt;
+}
+
+void IniFile::insertLine(std::size_t position, std::string content)
+{
+    // A last line without an ending gets one, or the new line would join it.
+    if (position > 0 && lines_[position - 1].ending.empty())
+        lines_[position - 1].ending = newline_;
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(position),
+                  Line{std::move(content), newline_});
+}
+
+void IniFile::setValue(std::string_view section, std::string_view key, std::string_view value)
+{
+    value = value.substr(0, value.find_first_of("\r\n"));
+
+    const auto header = findSection(section);
+    if (!header) {
+        if (!lines_.empty() && !isBlank(lines_.back().content))
+            insertLine(lines_.size(), {});
+        insertLine(lines_.size(), "[" + std::string(section) + "]");
+        insertLine(lines_.size(), std::string(key) + "=" + std::string(value));
+        return;
+    }
+
+    const std::size_t end = sectionEnd(*header);
+    std::size_t lastFilled = *header;
+    for (std::size_t i = *header + 1; i < end; ++i) {
+        std::string& content = lines_[i].content;
+        const LineMeaning meaning = meaningOf(content);
+        if (meaning.kind == LineMeaning::Kind::Key && equalIgnoringAsciiCase(meaning.name, key)) {
+            content.replace(meaning.valueBegin, meaning.valueEnd - meaning.valueBegin, value);
+            return;
+        }
+        if (!isBlank(content))
+            lastFilled = i;
+    }
+    // After the section's last filled line, so blank lines before the next
+    // section stay where they are.
+    insertLine(lastFilled + 1, std::string(key) + "=" + std::string(value));
+}
+
+bool IniFile::save(const fs::path& file, std::string& reason) const
+{
+    std::error_code error;
+    // Write through a symbolic link rather than replace the link with a file.
+    fs::path target = file;
+    if (fs::is_symlink(file, error)) {
+        const fs::path resolved = fs::weakly_canonical(file, error);
+        if (!error)
+            target = resolved;
+    }
+
+    const fs::path folder = target.parent_path();
+    if (!folder.empty()) {
+        fs::create_directories(folder, error);
+        if (error) {
+            reason = error.message();
+            return false;
+        }
+    }
+
+    fs::path temporary = target;
+    temporary += ".tmp";
+    std::error_code ignored;
+    if (!writeToDisk(temporary, text(), reason)) {
+        fs::remove(temporary, ignored);
+        return false;
+    }
+    const fs::file_status old = fs::status(target, ignored);
+    if (fs::exists(old))
+        fs::permissions(temporary, old.permissions(), ignored);
+    fs::rename(temporary, target, error);
+    if (error) {
+        reason = error.message();
+        fs::remove(temporary, ignored);
+        return false;
+    }
+    return true;
+}
+
+} // namespace purrlodge

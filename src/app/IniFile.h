@@ -1,0 +1,72 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace purrlodge {
+
+// Compares names as the profile functions do: ASCII letters without regard to
+// case, every other byte of 1252 as it is.
+[[nodiscard]] bool equalIgnoringAsciiCase(std::string_view a, std::string_view b);
+
+// A settings file in the INI layout, held as its lines so that a change
+// touches only the line it must: every other line, comment, blank line and the
+// order stay byte for byte, and each line keeps its own ending (CRLF or LF).
+//
+// The rules are those of the classic profile functions: section and key names
+// ignore ASCII case, values are raw bytes (no quoting, no escaping; backslashes
+// and '=' stay as they are) with the blanks around them trimmed on reading.
+// Lines starting with ';' or '#' are comments. When a section or key appears
+// twice, the first one counts.
+class IniFile {
+public:
+    IniFile() = default;
+
+    // Splits the bytes of a file into lines.
+    [[nodiscard]] static IniFile parse(std::string_view text);
+
+    // Reads the file at path. A file that does not exist reads as an empty one;
+    // any other failure gives nothing and puts the reason in `reason`.
+    [[nodiscard]] static std::optional<IniFile> load(const std::filesystem::path& file,
+                                                     std::string& reason);
+
+    // The bytes of the file as it stands now.
+    [[nodiscard]] std::string text() const;
+
+    // The value of key in section, without the blanks around it; nothing when
+    // the section or the key is missing.
+    [[nodiscard]] std::optional<std::string> value(std::string_view section,
+                                                   std::string_view key) const;
+
+    // Sets key in section. An existing key keeps its line, its position and its
+    // spelling in the file (so writing "PicDets" over "Picdets" leaves the name
+    // "Picdets"); only the value after the '=' changes. A new key goes after the
+    // last line of its section, a new section at the end of the file. New lines
+    // end as the file's first line does, LF in a new file. A value is cut at a
+    // line break, which could not be read back.
+    void setValue(std::string_view section, std::string_view key, std::string_view value);
+
+    // Writes the file crash-safely: a temporary file beside it, flushed to the
+    // disk, then renamed over it; missing folders above it are made. Returns
+    // false with the reason in `reason` when that fails; the old file is then
+    // left as it was.
+    [[nodiscard]] bool save(const std::filesystem::path& file, std::string& reason) const;
+
+private:
+    struct Line {
+        std::string content; // without its ending
+        std::string ending;  // "\r\n", "\n", or "" for a last line without one
+    };
+
+    [[nodiscard]] std::optional<std::size_t> findSection(std::string_view section) const;
+    [[nodiscard]] std::size_t sectionEnd(std::size_t header) const;
+    void insertLine(std::size_t position, std::string content);
+
+    std::vector<Line> lines_;
+    std::string newline_ = "\n";
+};
+
+} // namespace purrlodge

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace purrlodge {
+
+// The settings file, one key at a time, in the program's own section.
+// A missing key reads as the empty string; keys ignore case.
+class Profile {
+public:
+    virtual ~Profile() = default;
+
+    [[nodiscard]] virtual std::string read(std::string_view key) const = 0;
+    virtual void write(std::string_view key, std::string_view value) = 0;
+};
+
+} // namespace purrlodge

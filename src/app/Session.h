@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "accounts/AccountRecord.h"
+#include "accounts/ColourBlock.h"
+#include "accounts/EstablishmentRecord.h"
+#include "accounts/ExchangeRateRecord.h"
+#include "accounts/RatesRecord.h"
+#include "app/Ports.h"
+#include "store/ClientIndex.h"
+#include "store/ClientRecord.h"
+#include "store/DataFolder.h"
+#include "store/Dates.h"
+#include "store/RandomDraw.h"
+#include "store/StayRecord.h"
+
+namespace purrlodge {
+
+// Everything the program keeps for the whole run: the data folder, the one
+// current client, stay and index, the cattery's records, the account being
+// prepared and the ports. The main window owns the one Session and passes it
+// by reference; a test makes its own on a temporary folder.
+class Session {
+public:
+    Session(Ports ports, std::string dataFolder)
+        : ports(ports), folder(std::move(dataFolder), ports.ui), draw(ports.random, ports.clock)
+    {}
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    Ports ports;
+    DataFolder folder;
+
+    ClientRecord client{};
+    StayRecord stay{};
+    ClientIndex index{};
+
+    EstablishmentRecord establishment{};
+    ColourBlock colourBlock{};
+    RatesRecord rates{};
+    ExchangeRateRecord exchangeRate{};
+    AccountRecord account{};
+
+    DateEntryState dates{};
+    RandomDraw draw;
+
+    // The calendar year, taken once at start-up.
+    int currentYear = 1970;
+};
+
+} // namespace purrlodge

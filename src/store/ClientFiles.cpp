@@ -1,0 +1,117 @@
+#include "store/ClientFiles.h"
+
+#include "store/ClientCode.h"
+#include "store/DataFolder.h"
+#include "store/IndexOperations.h"
+#include "store/RandomDraw.h"
+#include "store/TextHelpers.h"
+
+namespace purrlodge {
+
+std::string clientFileName(std::string_view code, std::string_view extension)
+{
+    return std::string(code) + std::string(extension);
+}
+
+bool readClientRecord(const DataFolder& folder, std::string_view code, ClientRecord& client)
+{
+    return folder.read(clientFileName(code, extension::clientRecord), client);
+}
+
+bool writeClientRecord(const DataFolder& folder, std::string_view code, const ClientRecord& client)
+{
+    return folder.write(clientFileName(code, extension::clientRecord), client);
+}
+
+bool readStayRecord(const DataFolder& folder, std::string_view code, StayRecord& stay)
+{
+    return folder.read(clientFileName(code, extension::stayRecord), stay);
+}
+
+bool writeStayRecord(const DataFolder& folder, std::string_view code, const StayRecord& stay)
+{
+    return folder.write(clientFileName(code, extension::stayRecord), stay);
+}
+
+bool readIndex(const DataFolder& folder, ClientIndex& index)
+{
+    return folder.read(currentIndexFile, index);
+}
+
+bool writeIndex(const DataFolder& folder, const ClientIndex& index)
+{
+    return folder.write(currentIndexFile, index);
+}
+
+void sortIndex(const DataFolder& folder, ClientIndex& index, bool write)
+{
+    sortIndexEntries(index);
+    if (write)
+        writeIndex(folder, index);
+}
+
+bool readPastIndex(const DataFolder& folder, ClientIndex& past)
+{
+    const bool opened = folder.read(pastIndexFile, past);
+    if (past.count.get() == -1)
+        past.count.set(0);
+    return opened;
+}
+
+bool sortAndWritePastIndex(const DataFolder& folder, ClientIndex& past)
+{
+    sortIndexEntries(past);
+    return folder.write(pastIndexFile, past);
+}
+
+AddClientResult addNewClient(const DataFolder& folder, ClientIndex& index, ClientRecord& client,
+                             RandomDraw& draw)
+{
+    if (index.usedCount() >= maxClients)
+        return AddClientResult::IndexFull;
+
+    // Past clients keep their files under their codes, so their codes are
+    // taken too.
+    ClientIndex past;
+    readPastIndex(folder, past);
+    const std::string code = makeClientCode(
+        client.surname.str(), client.firstName.str(), draw, [&](std::string_view candidate) {
+            return findCode(index, candidate) > 0 || findCode(past, candidate) > 0;
+        });
+    if (code.empty())
+        return AddClientResult::NoCodeFree;
+
+    client.code.set(code);
+    appendEntry(index, client.surname.str(), code);
+    sortIndex(folder, index, true);
+    writeClientRecord(folder, code, client);
+    writeIndex(folder, index);
+    return AddClientResult::Added;
+}
+
+bool saveEditedClient(const DataFolder& folder, ClientIndex& index, const ClientRecord& client)
+{
+    const std::string code = client.code.str();
+    bool saved = writeClientRecord(folder, code, client);
+    const int entry = findCode(index, code);
+    if (entry > 0 && index.entries[entry].key.str() != client.surname.str()) {
+        index.entries[entry].key.set(client.surname.str());
+        saved = writeIndex(folder, index) && saved;
+    }
+    return saved;
+}
+
+std::string codeOfListLine(std::string_view line, const ClientIndex& index)
+{
+    const std::string code = toUpper(textBefore(line, "\t"));
+    const int entry = findCode(index, code);
+    return entry > 0 ? index.entries[entry].code.str() : code;
+}
+
+bool readClientOfListLine(const DataFolder& folder, const ClientIndex& index, std::string_view line,
+                          ClientRecord& client)
+{
+    return readClientRecord(folder, codeOfListLine(line, index), client);
+}
+
+} // namespace purrlodge
