@@ -8,6 +8,7 @@
 #include "accounts/ExchangeRateRecord.h"
 #include "accounts/RatesRecord.h"
 #include "app/Ports.h"
+#include "app/ShellState.h"
 #include "store/ClientIndex.h"
 #include "store/ClientRecord.h"
 #include "store/DataFolder.h"
@@ -23,8 +24,9 @@ namespace purrlodge {
 // by reference; a test makes its own on a temporary folder.
 class Session {
 public:
-    Session(Ports ports, std::string dataFolder)
-        : ports(ports), folder(std::move(dataFolder), ports.ui), draw(ports.random, ports.clock)
+    Session(Ports thePorts, std::string dataFolder)
+        : ports(thePorts), folder(std::move(dataFolder), thePorts.ui),
+          draw(thePorts.random, thePorts.clock)
     {}
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -47,6 +49,9 @@ public:
 
     // The calendar year, taken once at start-up.
     int currentYear = 1970;
+
+    // Switches, settings and display state of the application shell.
+    ShellState shell;
 };
 
 } // namespace purrlodge

@@ -66,14 +66,15 @@ bool DataFolder::writeBytes(std::string_view name, const void* block, std::size_
     // Keep the tail of a longer existing file, as a write without truncation does.
     std::vector<char> contents(static_cast<const char*>(block),
                                static_cast<const char*>(block) + size);
-    {
+    std::error_code sizeError;
+    const auto existingSize = std::filesystem::file_size(toPath(target), sizeError);
+    if (!sizeError && existingSize > size) {
         std::ifstream existing(toPath(target), std::ios::binary);
-        if (existing) {
-            existing.seekg(static_cast<std::streamoff>(size));
-            if (existing)
-                contents.insert(contents.end(), std::istreambuf_iterator<char>(existing),
-                                std::istreambuf_iterator<char>());
-        }
+        existing.seekg(static_cast<std::streamoff>(size));
+        contents.resize(static_cast<std::size_t>(existingSize));
+        existing.read(contents.data() + size, static_cast<std::streamsize>(existingSize - size));
+        if (!existing)
+            contents.resize(size + static_cast<std::size_t>(existing.gcount()));
     }
 
     auto fail = [&](const std::string& reason) {
