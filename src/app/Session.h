@@ -50,6 +50,10 @@ public:
     // The calendar year, taken once at start-up.
     int currentYear = 1970;
 
+    // The hidden diagnostic mode: switched by keywords typed into the client
+    // finder, it makes account preparation report its stages. Never saved.
+    bool diagnostics = false;
+
     // Switches, settings and display state of the application shell.
     ShellState shell;
 };

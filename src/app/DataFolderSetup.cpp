@@ -1,0 +1,203 @@
+#include "app/DataFolderSetup.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <new>
+#include <system_error>
+#include <vector>
+
+#include "store/ClientFiles.h"
+#include "store/DataFolder.h"
+
+namespace purrlodge {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t maxTypedFolderLength = 80;
+constexpr char nativeSeparator = static_cast<char>(fs::path::preferred_separator);
+constexpr std::string_view setDefaultDirectoryTitle = "Set Default Directory";
+
+// The index name as the dialogs look for it; the look-up ignores case.
+constexpr std::string_view indexProbeName = "fidex.CTL";
+
+bool isSeparator(char c)
+{
+    return c == '/' || c == nativeSeparator;
+}
+
+// Writes CurrentDir and tells the person to restart.
+void registerDataFolder(Ports& ports, const std::string& folder)
+{
+    ports.profile.write("CurrentDir", folder);
+    ports.ui.showMessage(
+        {"OK, '" + folder + "' is now your active directory. Please restart the program",
+         std::string(setDefaultDirectoryTitle)});
+}
+
+// The short names of the errors a deletion may meet, as the C library's
+// headers spell them.
+struct NamedError {
+    int number;
+    std::string_view name;
+};
+constexpr NamedError namedErrors[] = {
+    {EPERM, "EPERM"},
+    {ENOENT, "ENOENT"},
+    {EIO, "EIO"},
+    {ENOMEM, "ENOMEM"},
+    {EACCES, "EACCES"},
+    {EBUSY, "EBUSY"},
+    {EEXIST, "EEXIST"},
+    {ENOTDIR, "ENOTDIR"},
+    {EISDIR, "EISDIR"},
+    {EINVAL, "EINVAL"},
+    {EMFILE, "EMFILE"},
+    {ENOSPC, "ENOSPC"},
+    {EROFS, "EROFS"},
+    {ENAMETOOLONG, "ENAMETOOLONG"},
+    {ENOTEMPTY, "ENOTEMPTY"},
+    {ELOOP, "ELOOP"},
+};
+
+std::string_view errorName(int number)
+{
+    for (const NamedError& error : namedErrors) {
+        if (error.number == number)
+            return error.name;
+    }
+    return "?";
+}
+
+// "Error %i (%s) %s": the error's number, its short name and its description.
+std::string errorLine(const std::error_code& error)
+{
+    const std::error_condition condition = error.default_error_condition();
+    const std::string_view name =
+        condition.category() == std::generic_category() ? errorName(condition.value()) : "?";
+    return "Error " + std::to_string(error.value()) + " (" + std::string(name) + ") " +
+           error.message();
+}
+
+// Removes one file or empty folder; a failure is told in an "Error" box.
+void removeOrReport(Ui& ui, const fs::path& path, std::string_view what)
+{
+    std::error_code error;
+    if (fs::remove(path, error) && !error)
+        return;
+    if (!error) // it vanished meanwhile
+        error = std::make_error_code(std::errc::no_such_file_or_directory);
+    ui.showMessage({std::string(what) + path.string() + "\n" + errorLine(error), "Error"});
+}
+
+void deleteContents(Ui& ui, const fs::path& folder, bool descend, bool removeFolder)
+{
+    // List first and delete afterwards, so the listing never sees its own deletions.
+    std::vector<fs::directory_entry> entries;
+    std::error_code error;
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error))
+        entries.push_back(*it);
+    if (error && entries.empty())
+        return; // nothing listed: nothing to delete
+
+    for (const fs::directory_entry& entry : entries) {
+        std::error_code statusError;
+        // A link is deleted as a file; its target is never entered.
+        if (entry.symlink_status(statusError).type() == fs::file_type::directory) {
+            if (descend)
+                deleteFolderContents(ui, entry.path().string(), true, true);
+            continue;
+        }
+        removeOrReport(ui, entry.path(), "error deleting file: ");
+    }
+    if (removeFolder)
+        removeOrReport(ui, folder, "error deleting directory: ");
+}
+
+} // namespace
+
+std::string windowCaption(const std::string& currentDir)
+{
+    return "Purrlodge.exe - (Using Data in: " + currentDir + ")";
+}
+
+std::string dataFolderFromTyped(std::string_view typed)
+{
+    std::string folder(typed.substr(0, maxTypedFolderLength));
+    if (folder.empty() || !isSeparator(folder.back()))
+        folder += nativeSeparator;
+    return folder;
+}
+
+bool holdsClientIndex(Ui& ui, const std::string& folder)
+{
+    const DataFolder probe(folder, ui);
+    return probe.existsIgnoringCase(indexProbeName);
+}
+
+int acceptDirectorySetup(Ports& ports, const std::string& typedFolder)
+{
+    const std::string folder = dataFolderFromTyped(typedFolder);
+    if (holdsClientIndex(ports.ui, folder)) {
+        if (!ports.ui.askDirectoryCheck()) {
+            ports.ui.showMessage(
+                {"The directory was not registered", std::string(setDefaultDirectoryTitle)});
+            return 0;
+        }
+        // Registered here with a request to quit with code 0; the person then
+        // sees the confirmation a second time from the new-folder steps below,
+        // whose request to quit with code 1 replaces the first.
+        registerDataFolder(ports, folder);
+    }
+    makeFolderChain(folder);
+    registerDataFolder(ports, folder);
+    return 1;
+}
+
+std::optional<int> acceptChangeDataSource(Ports& ports, const std::string& typedFolder)
+{
+    const std::string folder = dataFolderFromTyped(typedFolder);
+    if (makeFolderChain(folder) != 1) {
+        if (!holdsClientIndex(ports.ui, folder)) {
+            // Whatever the answer, the folder is registered; the next start
+            // creates its index.
+            ports.ui.askNewDirectory(folder);
+        } else if (!ports.ui.askDirectoryCheck()) {
+            return std::nullopt;
+        }
+    }
+    registerDataFolder(ports, folder);
+    return 1;
+}
+
+int makeFolderChain(const std::string& folder)
+{
+    std::string trimmed = folder;
+    while (trimmed.size() > 1 && isSeparator(trimmed.back()))
+        trimmed.pop_back();
+    if (trimmed.empty())
+        return 0;
+
+    const fs::path target(trimmed);
+    std::error_code error;
+    if (fs::exists(target, error))
+        return 0;
+    // Every missing level is made: paths here begin below existing folders, so
+    // stopping at the first existing level would leave the folder unmade.
+    fs::create_directories(target, error);
+    return !error && fs::is_directory(target, error) ? 1 : 0;
+}
+
+void deleteFolderContents(Ui& ui, const std::string& folder, bool descend, bool removeFolder)
+{
+    try {
+        deleteContents(ui, fs::path(folder), descend, removeFolder);
+    } catch (const std::bad_alloc&) {
+        ui.showMessage(
+            {"Out of memory deleting directory \"" + folder + "\". Reboot Windows & retry.",
+             "Error"});
+    }
+}
+
+} // namespace purrlodge

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/Ports.h"
+
+namespace purrlodge {
+
+// Choosing the one data folder: Directory Setup (DIALOG 1, first run) and
+// Change Data Source (DIALOG 30, Setup | Change Data Set). Both register the
+// folder in CurrentDir and ask the program to quit: a new folder takes effect
+// at the next start.
+
+// The main window's caption: "Purrlodge.exe - (Using Data in: %s)", the
+// folder as stored, even when empty.
+[[nodiscard]] std::string windowCaption(const std::string& currentDir);
+
+// The folder as typed (up to 80 characters), ending in the native separator.
+[[nodiscard]] std::string dataFolderFromTyped(std::string_view typed);
+
+// Whether the folder holds a client index, its name compared without regard to
+// case so that a data set copied from a case-blind file system is recognised.
+[[nodiscard]] bool holdsClientIndex(Ui& ui, const std::string& folder);
+
+// Directory Setup OK: registers the typed folder, or not, and returns the code
+// the program must quit with (it always quits).
+int acceptDirectorySetup(Ports& ports, const std::string& typedFolder);
+
+// Change Data Source (DIALOG 30) OK: the quit code once the folder is
+// registered, nothing when the dialog stays open.
+std::optional<int> acceptChangeDataSource(Ports& ports, const std::string& typedFolder);
+
+// Makes every missing level of a folder path (ending in the separator or not).
+// Returns 1 when the folder itself did not exist and has now been made, else 0.
+int makeFolderChain(const std::string& folder);
+
+// Deletes the files in a folder, and the sub-folders with their contents when
+// asked to descend, then the folder itself when asked. Each failure is shown in
+// a message box titled "Error" and the next entry is tried.
+void deleteFolderContents(Ui& ui, const std::string& folder, bool descend, bool removeFolder);
+
+} // namespace purrlodge

@@ -1,0 +1,66 @@
+#include "app/ProfileDrives.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "app/Profile.h"
+#include "store/TextHelpers.h"
+
+namespace purrlodge {
+
+namespace {
+
+constexpr char nativeSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+
+std::string withSeparator(std::string folder)
+{
+    if (folder.back() != '/' && folder.back() != nativeSeparator)
+        folder += nativeSeparator;
+    return folder;
+}
+
+} // namespace
+
+ProfileDrives::ProfileDrives(const Profile& profile, std::string homeFolder)
+    : profile_(profile), homeFolder_(std::move(homeFolder))
+{}
+
+std::optional<std::string> ProfileDrives::rootOf(char letter) const
+{
+    const char drive = toUpper(letter);
+    if (drive < 'A' || drive > 'Z')
+        return std::nullopt;
+#ifdef _WIN32
+    return std::string{drive, ':', '\\'};
+#else
+    const std::string setting = profile_.read(std::string("Drive") + drive);
+    if (!setting.empty())
+        return withSeparator(setting);
+    if (drive == 'C' && !homeFolder_.empty())
+        return withSeparator(homeFolder_);
+    return std::nullopt;
+#endif
+}
+
+std::optional<std::uint64_t> ProfileDrives::freeBytes(const std::string& folder) const
+{
+    std::error_code error;
+    const std::filesystem::space_info space = std::filesystem::space(folder, error);
+    if (error)
+        return std::nullopt;
+    return static_cast<std::uint64_t>(space.available);
+}
+
+std::string userHomeFolder()
+{
+#ifdef _WIN32
+    const char* home = std::getenv("USERPROFILE");
+#else
+    const char* home = std::getenv("HOME");
+#endif
+    return home ? std::string(home) : std::string();
+}
+
+} // namespace purrlodge

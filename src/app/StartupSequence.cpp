@@ -1,0 +1,159 @@
+#include "app/StartupSequence.h"
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "accounts/CatteryFiles.h"
+#include "accounts/EstablishmentDetails.h"
+#include "app/BackupAlert.h"
+#include "app/DataFolderSetup.h"
+#include "app/PictureRotation.h"
+#include "app/Session.h"
+#include "store/ClientFiles.h"
+
+namespace purrlodge {
+
+namespace {
+
+constexpr std::string_view noRatesText =
+    "You do not have any Boarding Charges set for this Cattery!\n\n"
+    "Please go straight to Setup|Set Rates\n"
+    "before proceeding to use this program or\n"
+    "I shall not know how much to charge your boarders\n"
+    "However, if you have already entered details and have been using Purrlodge\n"
+    "then it would seem that some information has been lost in your computer.\n"
+    "If this is the case, just press OK on this screen\n"
+    "then when the normal Purrlodge scree comes up,\n"
+    "go to 'Setup|Change data Set' and enter the addresss of your data folder!\n"
+    "Everything will then be restored to normal!";
+
+constexpr std::string_view incompatibleDataText =
+    "This new version of Purrlodge is incompatible with your old data set.\n\n"
+    "Please obtain the conversion program 'Update_Purrlodge' and run it on your data "
+    "first; then start Purrlodge again.";
+
+// The working folder, kept for the whole run and written to ProgDir.
+void recordProgramFolder(Session& session)
+{
+    std::error_code error;
+    const std::filesystem::path working = std::filesystem::current_path(error);
+    session.shell.programFolder = working.string();
+    session.shell.perFolderIniPath = (working / "Purrlodge.ini").string();
+    session.ports.profile.write("ProgDir", session.shell.programFolder);
+}
+
+// Step 1. Returns the day of the month for the picture rotation.
+int prepareShellState(Session& session)
+{
+    session.shell.permittedNameCharacters = std::string(permittedNameCharacterSet);
+    const CivilTime today = session.ports.clock.toLocal(session.ports.clock.now());
+    session.currentYear = today.year;
+    session.shell.pictureFlags.fill(false);
+    session.shell.furtherDisplayFlags.fill(1);
+    return today.day;
+}
+
+// Step 4. The quit code when Directory Setup ended the run.
+std::optional<int> chooseDataFolder(Session& session, const std::string& suggestedDataFolder)
+{
+    const std::string currentDir = session.ports.profile.read("CurrentDir");
+    if (!currentDir.empty() && !session.shell.switches.forceDirectorySetup) {
+        session.folder.setPath(currentDir);
+        return std::nullopt;
+    }
+    const std::optional<std::string> typed =
+        session.ports.ui.askDirectorySetup(suggestedDataFolder);
+    if (!typed)
+        return 1;
+    // A registered folder is used from the next start; this run ends here.
+    return acceptDirectorySetup(session.ports, *typed);
+}
+
+// Step 5.
+void readDisplaySettings(Session& session)
+{
+    session.shell.digitalClock =
+        session.ports.profile.read("ClkTyp").find('D') != std::string::npos;
+    session.shell.pictureNoteIndicator =
+        session.ports.profile.read("musnotes").find('N') == std::string::npos;
+}
+
+// Step 6: a folder without an index gets an empty one.
+void openClientIndex(Session& session)
+{
+    if (!readIndex(session.folder, session.index)) {
+        session.index.formatStamp.set(0);
+        session.index.count.set(0);
+        session.index.backupReminderMode.set(1);
+        writeIndex(session.folder, session.index);
+    }
+    session.shell.backupReminderMode = session.index.backupReminderMode.get();
+}
+
+// Step 7. An index made at start-up has the stamp 0 and is accepted.
+bool indexIsCompatible(const ClientIndex& index)
+{
+    const std::int32_t stamp = index.formatStamp.get();
+    return stamp == currentFormatStamp || stamp == 0;
+}
+
+// Step 9. The quit code when Establishment Details ended the run.
+std::optional<int> loadCatteryFiles(Session& session)
+{
+    loadRates(session.folder, session.rates);
+    loadColourBlock(session.folder, session.colourBlock);
+    const bool haveEstablishment = loadEstablishment(session.folder, session.establishment);
+    if (!haveEstablishment || session.shell.switches.forceEstablishmentSetup)
+        return openEstablishmentDetails(session);
+    return std::nullopt;
+}
+
+// Steps 11 and 12: the run goes on without rates or a euro rate, with a warning.
+void checkRatesAndEuroRate(Session& session)
+{
+    if (!loadRates(session.folder, session.rates))
+        session.ports.ui.showMessage(
+            {std::string(noRatesText), "No Rates Set", MessageIcon::Exclamation});
+
+    if (session.rates.currency.get() == static_cast<std::uint32_t>(Currency::Sterling) &&
+        !loadExchangeRate(session.folder, session.exchangeRate))
+        session.ports.ui.showMessage({"Please Set the Euro-Exchange Rate", "Euros not Set!"});
+}
+
+} // namespace
+
+StartupOutcome runStartupSequence(Session& session, const std::string& suggestedDataFolder)
+{
+    recordProgramFolder(session);
+
+    const int dayOfMonth = prepareShellState(session);
+    session.shell.pictureIndex = rotatePicture(session.ports.profile, dayOfMonth);
+    session.shell.printingFontName = std::string(defaultPrintingFontName);
+
+    if (const std::optional<int> quitCode = chooseDataFolder(session, suggestedDataFolder))
+        return {false, *quitCode};
+    readDisplaySettings(session);
+
+    openClientIndex(session);
+    if (!indexIsCompatible(session.index)) {
+        session.ports.ui.showMessage({std::string(incompatibleDataText), "Data Not Compatible"});
+        return {false, 0};
+    }
+    readIndex(session.folder, session.index);
+    sortIndex(session.folder, session.index, true);
+
+    if (const std::optional<int> quitCode = loadCatteryFiles(session))
+        return {false, *quitCode};
+    if (const std::optional<int> typeSize = managerTypeSizeOf(session.establishment))
+        session.shell.managerTypeSize = *typeSize;
+    checkRatesAndEuroRate(session);
+
+    session.shell.backupReminder =
+        runBackupAlert(session.ports.ui, session.ports.profile, session.ports.clock);
+    session.shell.pictureTable = picturePlacements;
+    session.shell.ratesUsable = ratesUsable(session.rates);
+    return {};
+}
+
+} // namespace purrlodge
