@@ -1,0 +1,25 @@
+#include "gui/FieldEdit.h"
+
+#include "gui/Text1252.h"
+
+namespace purrlodge {
+
+QLineEdit* newFieldEdit(const QString& objectName, std::size_t fieldWidth, QWidget* parent)
+{
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(objectName);
+    edit->setMaxLength(static_cast<int>(fieldWidth > 0 ? fieldWidth - 1 : 0));
+    return edit;
+}
+
+std::string fieldText(const QLineEdit& edit)
+{
+    return toWindows1252(edit.text());
+}
+
+void setFieldText(QLineEdit& edit, std::string_view bytes)
+{
+    edit.setText(fromWindows1252(bytes));
+}
+
+} // namespace purrlodge

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <QLineEdit>
+
+namespace purrlodge {
+
+// An edit box for a fixed-width text field of the data files. The width counts
+// the terminator, so the box takes at most width - 1 characters, and each
+// character becomes one 1252 byte.
+QLineEdit* newFieldEdit(const QString& objectName, std::size_t fieldWidth, QWidget* parent);
+
+// The box's text as the core keeps it (1252 bytes) and back.
+[[nodiscard]] std::string fieldText(const QLineEdit& edit);
+void setFieldText(QLineEdit& edit, std::string_view bytes);
+
+} // namespace purrlodge

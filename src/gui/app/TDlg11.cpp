@@ -1,0 +1,55 @@
+#include "gui/app/TDlg11.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace purrlodge {
+
+TDlg11::TDlg11(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("directoryCheckDialog"));
+    setWindowTitle(QStringLiteral("Directory Check"));
+
+    auto* question = new QLabel(
+        QStringLiteral("The path you have specified already contains cat-data for this program.\n\n"
+                       "Do you wish to use this data ?"),
+        this);
+    question->setObjectName(QStringLiteral("questionLabel"));
+
+    auto* buttons = new QDialogButtonBox(
+        QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Help, this);
+    buttons->setObjectName(QStringLiteral("buttonBox"));
+    buttons->button(QDialogButtonBox::Yes)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg11::showHelp);
+    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &TDlg11::showHelp);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(question);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void TDlg11::showHelp()
+{
+    QMessageBox help(QMessageBox::Information, QStringLiteral("Directory Check"),
+                     QStringLiteral("The folder you have chosen already holds the files of a "
+                                    "Purrlodge data set (clients, cats, accounts and rates).\n\n"
+                                    "Yes: work with that data. Nothing in the folder is changed "
+                                    "or overwritten.\n\n"
+                                    "No: leave that data alone; the folder is not registered "
+                                    "and you can choose another one."),
+                     QMessageBox::Ok, this);
+    help.setObjectName(QStringLiteral("directoryCheckHelp"));
+    help.exec();
+}
+
+} // namespace purrlodge

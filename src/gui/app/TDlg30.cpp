@@ -1,0 +1,86 @@
+#include "gui/app/TDlg30.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "gui/FieldEdit.h"
+#include "gui/app/TDlg31.h"
+
+namespace purrlodge {
+
+namespace {
+// The folder is kept in an 81-byte buffer: 80 characters and the terminator.
+constexpr std::size_t folderFieldWidth = 81;
+} // namespace
+
+TDlg30::TDlg30(const std::string& current, AcceptFolder acceptFolder, QWidget* parent)
+    : QDialog(parent), acceptFolder_(std::move(acceptFolder))
+{
+    setObjectName(QStringLiteral("changeDataSourceDialog"));
+    setWindowTitle(QStringLiteral("Change Data Source"));
+
+    folderEdit_ = newFieldEdit(QStringLiteral("folderEdit"), folderFieldWidth, this);
+    setFieldText(*folderEdit_, current);
+    folderEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    folderEdit_->selectAll();
+
+    auto* label = new QLabel(QStringLiteral("&Folder of the data set to use from now on:"), this);
+    label->setBuddy(folderEdit_);
+
+    auto* browseButton = new QPushButton(QStringLiteral("&Browse..."), this);
+    browseButton->setObjectName(QStringLiteral("browseButton"));
+    browseButton->setAutoDefault(false);
+    connect(browseButton, &QPushButton::clicked, this, &TDlg30::browse);
+
+    auto* folderRow = new QHBoxLayout;
+    folderRow->addWidget(folderEdit_, 1);
+    folderRow->addWidget(browseButton);
+
+    auto* buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
+    buttons->setObjectName(QStringLiteral("buttonBox"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg30::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg30::showHelp);
+    // Return always means OK, even after Help was clicked; F1 opens the help too.
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &TDlg30::showHelp);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addLayout(folderRow);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void TDlg30::accept()
+{
+    if (acceptFolder_(fieldText(*folderEdit_)))
+        QDialog::accept();
+}
+
+void TDlg30::browse()
+{
+    const QString chosen = QFileDialog::getExistingDirectory(
+        this, QStringLiteral("Select Directory"), folderEdit_->text());
+    if (!chosen.isEmpty())
+        folderEdit_->setText(QDir::toNativeSeparators(chosen));
+}
+
+void TDlg30::showHelp()
+{
+    TDlg31 help(this);
+    help.exec();
+}
+
+} // namespace purrlodge

@@ -1,0 +1,34 @@
+#include "gui/app/TDlg58.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "gui/Text1252.h"
+
+namespace purrlodge {
+
+TDlg58::TDlg58(const std::string& folder, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("directoryErrorDialog"));
+    setWindowTitle(QStringLiteral("Directory Error"));
+
+    auto* text =
+        new QLabel(QStringLiteral("The Directory %1 does not seem to exist\nPlease try again!")
+                       .arg(fromWindows1252(folder)),
+                   this);
+    text->setObjectName(QStringLiteral("messageLabel"));
+    text->setTextFormat(Qt::PlainText);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->setObjectName(QStringLiteral("buttonBox"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+} // namespace purrlodge

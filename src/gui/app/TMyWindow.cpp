@@ -1,0 +1,237 @@
+#include "gui/app/TMyWindow.h"
+
+#include <optional>
+#include <string>
+
+#include <QAction>
+#include <QIcon>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "accounts/EstablishmentDetails.h"
+#include "app/CommandIds.h"
+#include "app/DataFolderSetup.h"
+#include "app/Session.h"
+#include "app/ShellToggles.h"
+#include "gui/app/ClockFace.h"
+#include "gui/app/MainMenu.h"
+#include "gui/app/MainToolBar.h"
+#include "gui/app/TDlg30.h"
+
+namespace purrlodge {
+
+namespace {
+
+// The clock is repainted once a minute.
+constexpr int clockPeriodMs = 60000;
+
+QIcon toolBarIcon(const QString& resource)
+{
+    QIcon icon;
+    icon.addFile(resource + QStringLiteral("-24.png"), QSize(24, 24));
+    icon.addFile(resource + QStringLiteral("-48.png"), QSize(48, 48));
+    return icon;
+}
+
+} // namespace
+
+TMyWindow::TMyWindow(Session& session, QWidget* parent)
+    : QMainWindow(parent), session_(session), clockFace_(new ClockFace(session, this)),
+      clockTimer_(new QTimer(this))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setCentralWidget(clockFace_);
+    // The tool bar stays where it is: no menu to hide it.
+    setContextMenuPolicy(Qt::NoContextMenu);
+
+    buildMenu();
+    buildToolBar();
+    buildCommandTable();
+    updateCommandStates();
+
+    clockTimer_->setObjectName(QStringLiteral("clockTimer"));
+    connect(clockTimer_, &QTimer::timeout, this, &TMyWindow::onClockTick);
+    clockTimer_->start(clockPeriodMs);
+
+    resize(760, 560);
+}
+
+void TMyWindow::buildMenu()
+{
+    for (const MenuEntry& popup : mainMenuLayout()) {
+        QMenu* menu = menuBar()->addMenu(popup.text);
+        menu->setObjectName(popup.objectName);
+        fillMenu(menu, popup.entries);
+    }
+}
+
+void TMyWindow::fillMenu(QMenu* menu, const std::vector<MenuEntry>& entries)
+{
+    // Two separators in a row are kept, as the menu is laid out.
+    menu->setSeparatorsCollapsible(false);
+    connect(menu, &QMenu::aboutToShow, this, &TMyWindow::updateCommandStates);
+    for (const MenuEntry& entry : entries) {
+        switch (entry.kind) {
+        case MenuEntry::Kind::Separator:
+            menu->addSeparator();
+            break;
+        case MenuEntry::Kind::Command:
+            menu->addAction(newCommandAction(entry.commandId, entry.text, entry.objectName));
+            break;
+        case MenuEntry::Kind::Popup: {
+            QMenu* sub = menu->addMenu(entry.text);
+            sub->setObjectName(entry.objectName);
+            fillMenu(sub, entry.entries);
+            break;
+        }
+        }
+    }
+}
+
+void TMyWindow::buildToolBar()
+{
+    QToolBar* bar = addToolBar(QStringLiteral("Tasks"));
+    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setIconSize(QSize(24, 24));
+    for (const ToolBarEntry& entry : mainToolBarLayout()) {
+        if (entry.separatorWidth > 0) {
+            auto* gap = new QWidget(bar);
+            gap->setObjectName(QStringLiteral("toolBarGap%1").arg(entry.separatorWidth));
+            gap->setFixedWidth(entry.separatorWidth);
+            bar->addWidget(gap);
+            continue;
+        }
+        QAction* action = newCommandAction(entry.commandId, entry.toolTip, entry.objectName);
+        action->setIcon(toolBarIcon(entry.icon));
+        action->setToolTip(entry.toolTip);
+        bar->addAction(action);
+    }
+}
+
+QAction* TMyWindow::newCommandAction(int commandId, const QString& text, const QString& objectName)
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(objectName);
+    action->setData(commandId);
+    connect(action, &QAction::triggered, this, [this, commandId] { runCommand(commandId); });
+    actions_.emplace(commandId, action);
+    return action;
+}
+
+void TMyWindow::buildCommandTable()
+{
+    using namespace command;
+
+    setCommand(digitalClock, [this] {
+        toggleDigitalClock(session_);
+        clockFace_->update();
+    });
+    setChecker(digitalClock, [this] { return session_.shell.digitalClock; });
+
+    setCommand(showPicNoteIndicator, [this] {
+        togglePictureNoteIndicator(session_);
+        clockFace_->update();
+    });
+    setChecker(showPicNoteIndicator, [this] { return session_.shell.pictureNoteIndicator; });
+
+    setCommand(remindMe, [this] { toggleBackupReminder(session_); });
+    setChecker(remindMe, [this] { return session_.shell.backupReminder; });
+
+    // Euros come into play only when the rates are in Sterling.
+    setEnabler(euroExchangeRate, [this] {
+        return session_.rates.currency.get() == static_cast<std::uint32_t>(Currency::Sterling);
+    });
+    setEnabler(seePictureNotes, [this] {
+        const int picture = session_.shell.pictureIndex;
+        return picture >= 0 && picture < pictureCount &&
+               session_.shell.pictureFlags[static_cast<std::size_t>(picture)];
+    });
+
+    setCommand(changeDataSet, [this] { openChangeDataSource(); });
+    setCommand(catteryDetails, [this] { editCatteryDetails(); });
+    setCommand(exitProgram, [this] { close(); });
+}
+
+void TMyWindow::setCommand(int commandId, std::function<void()> action)
+{
+    commands_[commandId].action = std::move(action);
+    updateCommandStates();
+}
+
+void TMyWindow::setEnabler(int commandId, std::function<bool()> isEnabled)
+{
+    commands_[commandId].isEnabled = std::move(isEnabled);
+    updateCommandStates();
+}
+
+void TMyWindow::setChecker(int commandId, std::function<bool()> isChecked)
+{
+    commands_[commandId].isChecked = std::move(isChecked);
+    for (QAction* action : actionsFor(commandId))
+        action->setCheckable(true);
+    updateCommandStates();
+}
+
+void TMyWindow::updateCommandStates()
+{
+    for (const auto& [commandId, action] : actions_) {
+        const auto found = commands_.find(commandId);
+        if (found == commands_.end() || !found->second.action) {
+            action->setEnabled(false);
+            continue;
+        }
+        const Command& command = found->second;
+        action->setEnabled(!command.isEnabled || command.isEnabled());
+        if (command.isChecked)
+            action->setChecked(command.isChecked());
+    }
+}
+
+QList<QAction*> TMyWindow::actionsFor(int commandId) const
+{
+    QList<QAction*> result;
+    const auto [first, last] = actions_.equal_range(commandId);
+    for (auto it = first; it != last; ++it)
+        result.append(it->second);
+    return result;
+}
+
+void TMyWindow::runCommand(int commandId)
+{
+    const auto found = commands_.find(commandId);
+    if (found != commands_.end() && found->second.action)
+        found->second.action();
+    updateCommandStates();
+}
+
+void TMyWindow::onClockTick()
+{
+    clockTimer_->stop();
+    clockFace_->update();
+    clockTimer_->start(clockPeriodMs);
+}
+
+void TMyWindow::openChangeDataSource()
+{
+    std::optional<int> quitCode;
+    TDlg30 dialog(
+        session_.folder.path(),
+        [this, &quitCode](const std::string& typed) {
+            quitCode = acceptChangeDataSource(session_.ports, typed);
+            return quitCode.has_value();
+        },
+        this);
+    if (dialog.exec() == QDialog::Accepted && quitCode)
+        emit quitRequested(*quitCode);
+}
+
+void TMyWindow::editCatteryDetails()
+{
+    if (const std::optional<int> quitCode = openEstablishmentDetails(session_))
+        emit quitRequested(*quitCode);
+}
+
+} // namespace purrlodge

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/Printer.h"
+
+namespace purrlodge {
+
+// The printers of this machine, as CUPS reports them.
+class QtPrinter : public Printer {
+public:
+    [[nodiscard]] bool hasPrinter() const override;
+};
+
+} // namespace purrlodge

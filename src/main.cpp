@@ -1,0 +1,7 @@
+#include "gui/app/TApp.h"
+
+int main(int argc, char** argv)
+{
+    purrlodge::TApp app(argc, argv);
+    return app.run();
+}
