@@ -1,0 +1,49 @@
+#include "accounts/AccountDateChecks.h"
+
+namespace purrlodge {
+
+namespace {
+
+bool isDateError(int code)
+{
+    return code >= DateYearWrong && code <= DateDepartureBeforeArrival;
+}
+
+AccountDatesCheck apparentDateError(int code, DateKind kind)
+{
+    return {AccountDatesVerdict::ApparentDateError, code, std::string(dateErrorMessage(code)),
+            std::string(dateKindLabel(kind))};
+}
+
+int checkDate(std::string_view date, DateKind kind, int currentYear, DateEntryState& state)
+{
+    std::string text(date);
+    state.kind = kind;
+    return validateDate(text, false, currentYear, state);
+}
+
+} // namespace
+
+AccountDatesCheck
+checkAccountDates(std::string_view arrival, std::string_view departure, int currentYear,
+                  DateEntryState& state, std::string_view additionalNotes, RatesRecord& rates,
+                  const std::function<bool(std::string_view question)>& longStayIsRight)
+{
+    const int arrivalCode = checkDate(arrival, DateKind::ArrivalStart, currentYear, state);
+    if (isDateError(arrivalCode))
+        return apparentDateError(arrivalCode, DateKind::ArrivalStart);
+
+    rates.accountNote.set(additionalNotes);
+
+    const int departureCode = checkDate(departure, DateKind::DepartureEnd, currentYear, state);
+    if (isDateError(departureCode))
+        return apparentDateError(departureCode, DateKind::DepartureEnd);
+    if (departureCode == DateStayTooLong) {
+        const std::string_view question = dateErrorMessage(departureCode);
+        if (!longStayIsRight(question))
+            return {AccountDatesVerdict::LongStayWrong, departureCode, std::string(question), {}};
+    }
+    return {};
+}
+
+} // namespace purrlodge

@@ -1,0 +1,91 @@
+#include "accounts/RatesSetup.h"
+
+#include <cstdio>
+
+#include "accounts/CatteryFiles.h"
+#include "accounts/FeeCalculation.h"
+#include "app/Clock.h"
+#include "app/Session.h"
+#include "store/Dates.h"
+#include "store/TextHelpers.h"
+
+namespace purrlodge {
+
+namespace {
+
+constexpr std::size_t rateEditLength = 7;
+constexpr std::uint32_t currencyButtons = 4;
+
+std::string rateText(float rate)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.2f", static_cast<double>(rate));
+    return text;
+}
+
+// "<prefix>%d:%d<middle>%d %s, %d": hour and minute unpadded, the day, the
+// month's full name and the four-digit year.
+std::string momentText(const char* format, const CivilTime& at)
+{
+    char text[128];
+    std::snprintf(text, sizeof text, format, at.hour, at.minute, at.day,
+                  std::string(monthName(at.month)).c_str(), at.year);
+    return text;
+}
+
+} // namespace
+
+RatesForm ratesFormFrom(const RatesRecord& rates, const Clock& clock)
+{
+    RatesForm form;
+    for (std::size_t cats = 0; cats < 6; ++cats) {
+        form.presentRate[cats] = rateText(rates.presentRate[cats].get());
+        form.previousRate[cats] = rateText(rates.previousRate[cats].get());
+    }
+    if (rates.currency.get() < currencyButtons)
+        form.currency = rates.currency.get();
+    form.perDay = chargesPerDay(rates);
+    form.updatePreviousRates = false;
+    form.todayText = momentText("Today: %d:%d - %d %s, %d", clock.toLocal(clock.now()));
+    form.previousSetText = momentText("'Previous' set: at %d:%d on %d %s, %d",
+                                      clock.toLocal(rates.rateChangeTime.get()));
+    return form;
+}
+
+RatesForm openRatesForm(Session& session)
+{
+    RatesRecord onDisc{};
+    if (loadRates(session.folder, onDisc))
+        session.rates = onDisc;
+    return ratesFormFrom(session.rates, session.ports.clock);
+}
+
+FormVerdict acceptRatesForm(Session& session, const RatesForm& form)
+{
+    RatesRecord& rates = session.rates;
+    // The stamp is a 32-bit count of seconds, as the file holds it.
+    const auto now = static_cast<std::int32_t>(session.ports.clock.now());
+    if (form.updatePreviousRates)
+        rates.rateChangeTime.set(now);
+    rates.perDay.set(form.perDay ? 1 : 0);
+    if (form.updatePreviousRates) {
+        for (std::size_t cats = 0; cats < 6; ++cats)
+            rates.previousRate[cats] = rates.presentRate[cats];
+    }
+    for (std::size_t cats = 0; cats < 6; ++cats) {
+        const std::string_view typed =
+            std::string_view(form.presentRate[cats]).substr(0, rateEditLength);
+        rates.presentRate[cats].set(toStoredFloat(leadingDouble(typed)));
+    }
+    // The first rates ever saved have no earlier ones to compare with.
+    if (rates.previousRate[0].get() == 0.0f) {
+        for (std::size_t cats = 0; cats < 6; ++cats)
+            rates.previousRate[cats] = rates.presentRate[cats];
+    }
+    if (form.currency && *form.currency < currencyButtons)
+        rates.currency.set(*form.currency);
+    saveRates(session.folder, rates);
+    return FormVerdict::Accept;
+}
+
+} // namespace purrlodge
