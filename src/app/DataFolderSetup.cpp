@@ -8,6 +8,7 @@
 
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -88,7 +89,7 @@ void removeOrReport(Ui& ui, const fs::path& path, std::string_view what)
         return;
     if (!error) // it vanished meanwhile
         error = std::make_error_code(std::errc::no_such_file_or_directory);
-    ui.showMessage({std::string(what) + path.string() + "\n" + errorLine(error), "Error"});
+    ui.showMessage({std::string(what) + windows1252Of(path) + "\n" + errorLine(error), "Error"});
 }
 
 void deleteContents(Ui& ui, const fs::path& folder, bool descend, bool removeFolder)
@@ -106,7 +107,7 @@ void deleteContents(Ui& ui, const fs::path& folder, bool descend, bool removeFol
         // A link is deleted as a file; its target is never entered.
         if (entry.symlink_status(statusError).type() == fs::file_type::directory) {
             if (descend)
-                deleteFolderContents(ui, entry.path().string(), true, true);
+                deleteFolderContents(ui, windows1252Of(entry.path()), true, true);
             continue;
         }
         removeOrReport(ui, entry.path(), "error deleting file: ");
@@ -179,7 +180,7 @@ int makeFolderChain(const std::string& folder)
     if (trimmed.empty())
         return 0;
 
-    const fs::path target(trimmed);
+    const fs::path target = nativePath(trimmed);
     std::error_code error;
     if (fs::exists(target, error))
         return 0;
@@ -192,7 +193,7 @@ int makeFolderChain(const std::string& folder)
 void deleteFolderContents(Ui& ui, const std::string& folder, bool descend, bool removeFolder)
 {
     try {
-        deleteContents(ui, fs::path(folder), descend, removeFolder);
+        deleteContents(ui, nativePath(folder), descend, removeFolder);
     } catch (const std::bad_alloc&) {
         ui.showMessage(
             {"Out of memory deleting directory \"" + folder + "\". Reboot Windows & retry.",

@@ -7,6 +7,7 @@
 
 #include "app/Profile.h"
 #include "store/TextHelpers.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -47,7 +48,7 @@ std::optional<std::string> ProfileDrives::rootOf(char letter) const
 std::optional<std::uint64_t> ProfileDrives::freeBytes(const std::string& folder) const
 {
     std::error_code error;
-    const std::filesystem::space_info space = std::filesystem::space(folder, error);
+    const std::filesystem::space_info space = std::filesystem::space(nativePath(folder), error);
     if (error)
         return std::nullopt;
     return static_cast<std::uint64_t>(space.available);
@@ -60,7 +61,8 @@ std::string userHomeFolder()
 #else
     const char* home = std::getenv("HOME");
 #endif
-    return home ? std::string(home) : std::string();
+    // The environment speaks the file system's Unicode; the program speaks 1252.
+    return home ? windows1252Of(std::filesystem::path(home)) : std::string();
 }
 
 } // namespace purrlodge

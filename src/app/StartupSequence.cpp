@@ -11,6 +11,7 @@
 #include "app/PictureRotation.h"
 #include "app/Session.h"
 #include "store/ClientFiles.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -38,8 +39,8 @@ void recordProgramFolder(Session& session)
 {
     std::error_code error;
     const std::filesystem::path working = std::filesystem::current_path(error);
-    session.shell.programFolder = working.string();
-    session.shell.perFolderIniPath = (working / "Purrlodge.ini").string();
+    session.shell.programFolder = windows1252Of(working);
+    session.shell.perFolderIniPath = windows1252Of(working / "Purrlodge.ini");
     session.ports.profile.write("ProgDir", session.shell.programFolder);
 }
 

@@ -16,6 +16,7 @@
 
 #include "app/Ui.h"
 #include "store/TextHelpers.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -23,8 +24,16 @@ namespace {
 
 std::filesystem::path toPath(const std::string& name)
 {
-    // Names are the data set's own bytes; on this platform paths are bytes too.
-    return std::filesystem::path(name);
+    return nativePath(name);
+}
+
+std::FILE* openForWriting(const std::filesystem::path& path)
+{
+#ifdef _WIN32
+    return _wfopen(path.c_str(), L"wb");
+#else
+    return std::fopen(path.c_str(), "wb");
+#endif
 }
 
 bool flushToDisk(std::FILE* file)
@@ -86,7 +95,7 @@ bool DataFolder::writeBytes(std::string_view name, const void* block, std::size_
         return false;
     };
 
-    std::FILE* file = std::fopen(temporary.c_str(), "wb");
+    std::FILE* file = openForWriting(toPath(temporary));
     if (!file)
         return fail(std::strerror(errno));
     const bool written =
@@ -119,7 +128,8 @@ bool DataFolder::existsIgnoringCase(std::string_view name) const
     const std::string wanted = toUpper(name);
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(toPath(folder_), error)) {
-        if (entry.is_regular_file(error) && toUpper(entry.path().filename().string()) == wanted)
+        if (entry.is_regular_file(error) &&
+            toUpper(windows1252Of(entry.path().filename())) == wanted)
             return true;
     }
     return false;
