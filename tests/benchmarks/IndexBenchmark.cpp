@@ -2,7 +2,6 @@
 // bubble sort the file format has always used: the worst case is a full
 // index in reverse order.
 #include <benchmark/benchmark.h>
-
 #include <string>
 
 #include "store/IndexOperations.h"
@@ -14,8 +13,8 @@ ClientIndex reversedFullIndex()
 {
     ClientIndex index{};
     for (int i = maxClients; i > 0; --i) {
-        const std::string surname = std::string(1, static_cast<char>('A' + i % 26)) + "ppleby-" +
-                                    std::to_string(i);
+        const std::string surname =
+            std::string(1, static_cast<char>('A' + i % 26)) + "ppleby-" + std::to_string(i);
         appendEntry(index, surname, "CODE" + std::to_string(i));
     }
     return index;

@@ -149,8 +149,10 @@ private slots:
         ShellFixture shell;
         QVERIFY(shell.window.actionsFor(command::catteryDetails).first()->isEnabled());
         QVERIFY(shell.window.actionsFor(command::exitProgram).first()->isEnabled());
-        for (const int waiting : {command::newClient, command::backupMyData, command::setAutoMemo,
-                                  command::runPendingPrintout, command::about})
+        QVERIFY(shell.window.actionsFor(command::newClient).first()->isEnabled());
+        for (const int waiting :
+             {command::issueAccount, command::backupMyData, command::setAutoMemo,
+              command::runPendingPrintout, command::about})
             for (const QAction* action : shell.window.actionsFor(waiting))
                 QVERIFY2(!action->isEnabled(), qPrintable(action->objectName()));
     }

@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
+#include "store/Windows1252.h"
 
 #include <filesystem>
+#include <gtest/gtest.h>
 
 #include "store/DataFolder.h"
-#include "store/Windows1252.h"
 #include "support/FakePorts.h"
 #include "support/TempFolder.h"
 

@@ -14,10 +14,13 @@
 #include "app/DataFolderSetup.h"
 #include "app/Session.h"
 #include "app/ShellToggles.h"
+#include "gui/accounts/CatterySetupCommands.h"
 #include "gui/app/ClockFace.h"
 #include "gui/app/MainMenu.h"
 #include "gui/app/MainToolBar.h"
 #include "gui/app/TDlg30.h"
+#include "gui/clients/ClientCommands.h"
+#include "gui/clients/ClientSearchCommands.h"
 
 namespace purrlodge {
 
@@ -153,6 +156,9 @@ void TMyWindow::buildCommandTable()
     setCommand(changeDataSet, [this] { openChangeDataSource(); });
     setCommand(catteryDetails, [this] { editCatteryDetails(); });
     setCommand(exitProgram, [this] { close(); });
+    registerCatterySetupCommands(*this, session_);
+    registerClientCommands(*this, session_);
+    registerClientSearchCommands(*this, session_);
 }
 
 void TMyWindow::setCommand(int commandId, std::function<void()> action)

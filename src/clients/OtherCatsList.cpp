@@ -1,0 +1,110 @@
+#include "clients/OtherCatsList.h"
+
+#include <fstream>
+
+#include "clients/EarlierCatRecord.h"
+#include "clients/OtherCatsFile.h"
+#include "store/ClientFiles.h"
+#include "store/DataFolder.h"
+#include "store/TextHelpers.h"
+#include "store/Windows1252.h"
+
+namespace purrlodge {
+
+namespace {
+
+std::ifstream openClientFile(const DataFolder& folder, std::string_view code,
+                             std::string_view fileExtension)
+{
+    return std::ifstream(nativePath(folder.fileName(clientFileName(code, fileExtension))),
+                         std::ios::binary);
+}
+
+// "%s, %s, %s, %c, DOB = %s, Notified (%s) = %s", then the note, then a blank line.
+void listEarlierCats(const DataFolder& folder, std::string_view code,
+                     std::vector<std::string>& lines)
+{
+    std::ifstream file = openClientFile(folder, code, extension::earlierCats);
+    if (!file)
+        return;
+    EarlierCatRecord cat{};
+    // A short record at the end of the file is not a record.
+    for (int listed = 0;
+         listed < earlierCatsListed && file.read(reinterpret_cast<char*>(&cat), sizeof cat);
+         ++listed) {
+        // The fixed words always give the record a line, even when it is blank.
+        lines.push_back(cat.name.str() + ", " + cat.breed.str() + ", " + cat.colour.str() + ", " +
+                        earlierCatSexLetter(cat.sex.get()) + ", DOB = " + cat.dateOfBirth.str() +
+                        ", Notified (" + cat.notifiedTo.str() + ") = " + cat.notifiedValue.str());
+        if (hasLetterOrDigit(cat.note.str()))
+            lines.push_back(cat.note.str());
+        lines.emplace_back(" ");
+    }
+}
+
+// The note book is a text file of CR LF lines; each non-empty line is listed,
+// a very long one in pieces.
+void listNoteBook(const DataFolder& folder, std::string_view code, std::vector<std::string>& lines)
+{
+    std::ifstream file = openClientFile(folder, code, extension::noteBook);
+    if (!file)
+        return;
+    std::string line;
+    while (std::getline(file, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        for (std::size_t start = 0; start < line.size(); start += noteBookLineLimit)
+            lines.push_back(line.substr(start, noteBookLineLimit));
+    }
+}
+
+// "%s  %s  %s %s:    %s" (name, breed, colour, reason, history) and the notes.
+void listOtherCats(const DataFolder& folder, std::string_view code, std::vector<std::string>& lines)
+{
+    OtherCatsFile others{};
+    folder.read(clientFileName(code, extension::otherCats), others);
+    for (const auto& cat : others.cats) {
+        if (cat.name.isEmpty())
+            continue;
+        lines.push_back(cat.name.str() + "  " + cat.breed.str() + "  " + cat.colour.str() + ' ' +
+                        cat.reason.str() + ":    " + cat.history.str());
+        if (!cat.notes.isEmpty())
+            lines.push_back("     " + cat.notes.str());
+    }
+}
+
+} // namespace
+
+char earlierCatSexLetter(std::int32_t sexCode)
+{
+    switch (sexCode) {
+    case 4:
+        return 'f';
+    case 3:
+        return 'F';
+    case 2:
+        return 'm';
+    default:
+        return 'M';
+    }
+}
+
+OtherCatsListing otherCatsListing(const DataFolder& folder, std::string_view code,
+                                  const ClientRecord& client, OtherCatsMode mode)
+{
+    const std::string names = client.firstName.str() + ' ' + client.surname.str();
+    OtherCatsListing listing;
+    if (mode == OtherCatsMode::EarlierSpecialNotes) {
+        listEarlierCats(folder, code, listing.lines);
+        // The list is about the former cats whether or not any special notes
+        // were kept, so the heading says so.
+        listing.heading = "\nSummary of previous cats belonging to " + names;
+    } else {
+        listNoteBook(folder, code, listing.lines);
+        listing.heading = "Special Notes for:  " + names;
+    }
+    listOtherCats(folder, code, listing.lines);
+    return listing;
+}
+
+} // namespace purrlodge

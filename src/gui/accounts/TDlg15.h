@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <QDialog>
+
+#include "accounts/EstablishmentForm.h"
+
+class QLineEdit;
+
+namespace purrlodge {
+
+// "Initial Receipt Number" (DIALOG 15): the number the next account takes.
+// OK hands the number as typed to the accept function, whose verdict decides
+// whether the dialog closes or stays open as typed.
+class TDlg15 : public QDialog {
+    Q_OBJECT
+
+public:
+    using AcceptNumber = std::function<FormVerdict(const std::string& typed)>;
+
+    // offer: the number to start the edit with, 1252 bytes.
+    TDlg15(const std::string& offer, AcceptNumber acceptNumber, QWidget* parent = nullptr);
+
+    // The number as typed, 1252 bytes.
+    [[nodiscard]] std::string number() const;
+
+    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
+    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
+
+    void accept() override;
+
+private:
+    QLineEdit* numberEdit_; // 102
+
+    AcceptNumber acceptNumber_;
+    std::optional<FormVerdict> verdict_;
+};
+
+} // namespace purrlodge

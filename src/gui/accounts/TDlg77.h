@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QDialog>
+
+#include "accounts/StandardExtraSetup.h"
+
+class QLineEdit;
+
+namespace purrlodge {
+
+// "Set Standard Extra" (DIALOG 77): the extra charge that every account may
+// carry, its name and amount. A thin view over StandardExtraForm: OK hands the
+// entries to the accept function, whose verdict decides whether the dialog
+// closes or stays open as typed.
+class TDlg77 : public QDialog {
+    Q_OBJECT
+
+public:
+    using AcceptForm = std::function<FormVerdict(const StandardExtraForm&)>;
+
+    TDlg77(const StandardExtraForm& initial, AcceptForm acceptForm, QWidget* parent = nullptr);
+
+    // The entries as they stand.
+    [[nodiscard]] StandardExtraForm form() const;
+
+    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
+    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
+
+    void accept() override;
+
+private:
+    QLineEdit* nameEdit_;   // 101
+    QLineEdit* amountEdit_; // 102
+
+    AcceptForm acceptForm_;
+    std::optional<FormVerdict> verdict_;
+};
+
+} // namespace purrlodge

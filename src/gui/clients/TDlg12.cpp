@@ -1,0 +1,69 @@
+#include "gui/clients/TDlg12.h"
+
+#include <algorithm>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "gui/Text1252.h"
+#include "gui/clients/TabbedListBox.h"
+
+namespace purrlodge {
+
+namespace {
+
+// The list is at least as wide as a cat line with a short colour and breed;
+// longer lines widen it.
+constexpr int lastColumnLetters = 48;
+constexpr int minimumRows = 12;
+
+QPushButton* newButton(const QString& text, const QString& objectName, QDialogButtonBox* box)
+{
+    QPushButton* button = box->addButton(text, QDialogButtonBox::ActionRole);
+    button->setObjectName(objectName);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats, QWidget* parent)
+    : QDialog(parent), openOtherCats_(std::move(openOtherCats))
+{
+    setObjectName(QStringLiteral("clientDetailsDialog"));
+    setWindowTitle(fromWindows1252(listing.caption));
+
+    list_ = new TabbedListBox(clientDetailsTabStops, this);
+    list_->setObjectName(QStringLiteral("detailsList"));
+    list_->setLines(listing.lines);
+    const int lastStop =
+        *std::max_element(clientDetailsTabStops.begin(), clientDetailsTabStops.end());
+    const int width =
+        list_->widthFor(lastStop) + fontMetrics().averageCharWidth() * lastColumnLetters;
+    list_->fitToLines(minimumRows, width);
+    list_->setMinimumSize(width / 2, fontMetrics().height() * minimumRows / 2);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->setObjectName(QStringLiteral("buttonBox"));
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
+    printButton_ = newButton(QStringLiteral("&Print"), QStringLiteral("printButton"), buttons);
+    printButton_->setEnabled(false); // the printed listing is not made yet
+    otherCatsButton_ =
+        newButton(QStringLiteral("See &Other Cats"), QStringLiteral("otherCatsButton"), buttons);
+    otherCatsButton_->setEnabled(listing.otherCatsEnabled);
+    specialNotesButton_ = newButton(QStringLiteral("See &Special Notes"),
+                                    QStringLiteral("specialNotesButton"), buttons);
+    specialNotesButton_->setEnabled(listing.specialNotesEnabled);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(otherCatsButton_, &QPushButton::clicked, this,
+            [this] { openOtherCats_(this, OtherCatsMode::EarlierSpecialNotes); });
+    connect(specialNotesButton_, &QPushButton::clicked, this,
+            [this] { openOtherCats_(this, OtherCatsMode::NoteBook); });
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(list_, 1);
+    layout->addWidget(buttons);
+}
+
+} // namespace purrlodge

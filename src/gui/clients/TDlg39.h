@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QDialog>
+
+namespace purrlodge {
+
+// "Help on Global Search" (DIALOG 39): how the search text, the case mode and
+// the field groups work, with a Close button.
+class TDlg39 : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit TDlg39(QWidget* parent = nullptr);
+};
+
+} // namespace purrlodge
