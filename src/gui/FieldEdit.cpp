@@ -12,6 +12,22 @@ QLineEdit* newFieldEdit(const QString& objectName, std::size_t fieldWidth, QWidg
     return edit;
 }
 
+QLineEdit* newNumberEdit(const QString& objectName, std::size_t fieldWidth, int digitsShown,
+                         QWidget* parent)
+{
+    QLineEdit* edit = newFieldEdit(objectName, fieldWidth, parent);
+    edit->setAlignment(Qt::AlignRight);
+    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QString(digitsShown, u'0')));
+    return edit;
+}
+
+QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setBuddy(buddy);
+    return label;
+}
+
 std::string fieldText(const QLineEdit& edit)
 {
     return toWindows1252(edit.text());

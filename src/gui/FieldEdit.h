@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include <QLabel>
 #include <QLineEdit>
 
 namespace purrlodge {
@@ -12,6 +13,14 @@ namespace purrlodge {
 // the terminator, so the box takes at most width - 1 characters, and each
 // character becomes one 1252 byte.
 QLineEdit* newFieldEdit(const QString& objectName, std::size_t fieldWidth, QWidget* parent);
+
+// A field edit for a number: right-aligned, as wide as digitsShown digits.
+QLineEdit* newNumberEdit(const QString& objectName, std::size_t fieldWidth, int digitsShown,
+                         QWidget* parent);
+
+// The label before an edit: its mnemonic (the letter after '&') moves the
+// focus to the edit.
+QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent);
 
 // The box's text as the core keeps it (1252 bytes) and back.
 [[nodiscard]] std::string fieldText(const QLineEdit& edit);

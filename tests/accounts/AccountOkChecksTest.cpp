@@ -34,13 +34,10 @@ TEST(StandardExtraTest, PendingExtraNeedsADecisionEvenWhenItsButtonsAreHidden)
     chooseStandardExtra(controls, true);
     EXPECT_TRUE(controls.yesTicked && controls.charged && !controls.noTicked);
 
-    EXPECT_EQ(standardExtraAmountFrom(pound + "12.34567"),
-              12.345f); // seven characters
+    EXPECT_EQ(standardExtraAmountFrom(pound + "12.34567"), 12.345f) << "seven characters";
     // An amount left as the edit shows it reads back in every currency.
     EXPECT_EQ(standardExtraAmountFrom("$3.00"), 3.0f);
-    EXPECT_EQ(standardExtraAmountFrom("\x80"
-                                      "4.50"),
-              4.5f);
+    EXPECT_EQ(standardExtraAmountFrom(std::string("\x80") + "4.50"), 4.5f);
     EXPECT_EQ(standardExtraAmountFrom("Extra 3"), 0.0f);
 }
 

@@ -1,16 +1,18 @@
 #include "accounts/FeeCalculation.h"
 
-#include <cstring>
 #include <gtest/gtest.h>
 
 #include "app/Session.h"
 #include "store/CivilCalendar.h"
 #include "store/ClientFiles.h"
+#include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/TempFolder.h"
 
 namespace purrlodge {
 namespace {
+
+using testing::bytesOf;
 
 const std::string pound = "\xA3";
 
@@ -121,10 +123,7 @@ TEST_F(FeeCalculationTest, SingleRateAccountIsStoredExactly)
 
     AccountRecord account = before;
     EXPECT_EQ(computeFee(entries, rates, exchange, clock, account).standardExtraAmount, 7.5f);
-    for (std::size_t at = 0; at < sizeof account; ++at)
-        ASSERT_EQ(reinterpret_cast<const unsigned char*>(&account)[at],
-                  reinterpret_cast<const unsigned char*>(&expected)[at])
-            << "offset " << at;
+    EXPECT_EQ(bytesOf(account), bytesOf(expected));
 }
 
 // The change day is charged at the new rate; per night, the new-rate part
@@ -261,7 +260,7 @@ TEST_F(FeeCalculationTest, SessionComputesIntoTheClientAndCommitsBothDatePairs)
     EXPECT_EQ(fakes.ui.messages,
               (std::vector<Message>{
                   {"No Cats have been entered!", "Names no Ticked", MessageIcon::Exclamation}}));
-    EXPECT_EQ(std::memcmp(&session.account, &computed, sizeof computed), 0);
+    EXPECT_EQ(bytesOf(session.account), bytesOf(computed));
     EXPECT_EQ(session.client.arrivalDate.str(), "01/03/05");
 }
 

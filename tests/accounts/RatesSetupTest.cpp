@@ -1,10 +1,10 @@
 #include "accounts/RatesSetup.h"
 
-#include <cstring>
 #include <gtest/gtest.h>
 
 #include "accounts/CatteryFiles.h"
 #include "app/Session.h"
+#include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/TempFolder.h"
 
@@ -38,7 +38,7 @@ protected:
     {
         RatesRecord onDisc{};
         EXPECT_TRUE(loadRates(session.folder, onDisc));
-        EXPECT_EQ(std::memcmp(&onDisc, &session.rates, sizeof onDisc), 0);
+        EXPECT_EQ(testing::bytesOf(onDisc), testing::bytesOf(session.rates));
         return onDisc;
     }
 

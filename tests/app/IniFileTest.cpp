@@ -2,16 +2,18 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "app/IniProfile.h"
 #include "app/SettingsLocation.h"
+#include "support/Bytes.h"
 #include "support/TempFolder.h"
 
 namespace purrlodge {
 namespace {
+
+using testing::fileBytes;
 
 const std::string sample = "; settings\n"
                            "[Other]\n"
@@ -80,24 +82,25 @@ protected:
         });
     }
 
-    static std::string contents(const std::filesystem::path& file)
-    {
-        std::ifstream stream(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-
     testing::TempFolder folder;
     std::vector<std::string> errors;
 };
 
-TEST_F(IniProfileTest, MissingFileReadsEmptyAndTheFirstWriteMakesItAndItsFolder)
+TEST_F(IniProfileTest, TheFirstWriteMakesTheFileAndItsFolderAndReadsAreCut)
 {
     const auto file = folder.root() / "config" / "deeper" / "HEARTH.INI";
     IniProfile settings = profile(file);
     EXPECT_EQ(settings.read("CurrentDir"), "");
     settings.write("PicDets", "3 $ 9");
-    EXPECT_EQ(contents(file), "[Purrlodge]\nPicDets=3 $ 9\n");
+    EXPECT_EQ(fileBytes(file), "[Purrlodge]\nPicDets=3 $ 9\n");
     EXPECT_EQ(settings.read("Picdets"), "3 $ 9");
+
+    // Each read is cut to the buffer the program gives it.
+    const std::string longFolder = "/" + std::string(99, 'f') + "/";
+    settings.write("CurrentDir", longFolder);
+    settings.write("CurrentDrive", "C:\\Cats");
+    EXPECT_EQ(settings.read("CurrentDir"), longFolder.substr(0, 80));
+    EXPECT_EQ(settings.read("currentdrive"), "C:\\C");
     EXPECT_TRUE(errors.empty());
 }
 
@@ -112,18 +115,7 @@ TEST_F(IniProfileTest, TwoProfilesOnOneFileSeeEachOthersWritesAndCrlfIsKept)
     second.write("RemStatus", "0");
     EXPECT_EQ(second.read("clktyp"), "D");
     EXPECT_EQ(first.read("RemStatus"), "0");
-    EXPECT_EQ(contents(file), "[Purrlodge]\r\nClkTyp=D\r\nRemStatus=0\r\n");
-}
-
-TEST_F(IniProfileTest, ReadsAreCutToTheirBuffers)
-{
-    IniProfile settings = profile(folder.root() / "HEARTH.INI");
-    const std::string longFolder = "/" + std::string(99, 'f') + "/";
-    settings.write("CurrentDir", longFolder);
-    settings.write("CurrentDrive", "C:\\Cats");
-    EXPECT_EQ(settings.read("CurrentDir"), longFolder.substr(0, 80));
-    EXPECT_EQ(settings.read("currentdrive"), "C:\\C");
-    EXPECT_EQ(settings.read("DefBkDir"), "");
+    EXPECT_EQ(fileBytes(file), "[Purrlodge]\r\nClkTyp=D\r\nRemStatus=0\r\n");
 }
 
 TEST_F(IniProfileTest, AFailedWriteIsReportedAndChangesNothing)
@@ -136,16 +128,15 @@ TEST_F(IniProfileTest, AFailedWriteIsReportedAndChangesNothing)
     std::ofstream(folder.root() / "plain") << "keep";
     profile(folder.root() / "plain" / "HEARTH.INI").write("CurrentDir", "x");
 
+    // Each report names the file, then a reason.
+    const std::filesystem::path files[] = {blocked, folder.root() / "plain" / "HEARTH.INI"};
     ASSERT_EQ(errors.size(), 2u);
-    const std::string names[] = {blocked.string(),
-                                 (folder.root() / "plain" / "HEARTH.INI").string()};
     for (std::size_t i = 0; i < 2; ++i) {
-        // The file's name, then a reason.
-        EXPECT_EQ(errors[i].rfind(names[i] + ": ", 0), 0u) << errors[i];
-        EXPECT_GT(errors[i].size(), names[i].size() + 2) << errors[i];
+        EXPECT_EQ(errors[i].rfind(files[i].string() + ": ", 0), 0u) << errors[i];
+        EXPECT_GT(errors[i].size(), files[i].string().size() + 2) << errors[i];
     }
     EXPECT_TRUE(std::filesystem::is_directory(blocked));
-    EXPECT_EQ(contents(folder.root() / "plain"), "keep");
+    EXPECT_EQ(fileBytes(folder.root() / "plain"), "keep");
 }
 
 TEST(SettingsLocationTest, PrefersAnAbsoluteXdgFolderThenHome)

@@ -14,27 +14,20 @@ StartupSwitches parse(std::vector<const char*> arguments)
     return parseStartupSwitches(count, arguments.data());
 }
 
-TEST(StartupSwitchesTest, OneArgumentMaySetAnySwitch)
+TEST(StartupSwitchesTest, OneArgumentMaySetAnySwitchOfTwoOnlyTheSecondAndNeverTest)
 {
-    EXPECT_EQ(parse({"-fdc"}), (StartupSwitches{true, false, false}));
-    EXPECT_EQ(parse({"-fec"}), (StartupSwitches{false, true, false}));
+    const StartupSwitches none{}, fdc{true, false, false}, fec{false, true, false};
+    EXPECT_EQ(parse({"-fdc"}), fdc);
+    EXPECT_EQ(parse({"-fec"}), fec);
     EXPECT_EQ(parse({"-test"}), (StartupSwitches{false, false, true}));
-    EXPECT_EQ(parse({"-FDC"}), StartupSwitches{});
-    EXPECT_EQ(parse({"-fdc "}), StartupSwitches{});
-}
-
-TEST(StartupSwitchesTest, OfTwoArgumentsOnlyTheSecondCountsAndNeverForTest)
-{
-    EXPECT_EQ(parse({"x", "-fdc"}), (StartupSwitches{true, false, false}));
-    EXPECT_EQ(parse({"-fdc", "-fec"}), (StartupSwitches{false, true, false}));
-    EXPECT_EQ(parse({"-fdc", "x"}), StartupSwitches{});
-    EXPECT_EQ(parse({"x", "-test"}), StartupSwitches{});
-}
-
-TEST(StartupSwitchesTest, AnyOtherCountIsIgnored)
-{
-    EXPECT_EQ(parse({}), StartupSwitches{});
-    EXPECT_EQ(parse({"x", "y", "-fdc"}), StartupSwitches{});
+    EXPECT_EQ(parse({"-FDC"}), none);
+    EXPECT_EQ(parse({"-fdc "}), none);
+    EXPECT_EQ(parse({"x", "-fdc"}), fdc);
+    EXPECT_EQ(parse({"-fdc", "-fec"}), fec);
+    EXPECT_EQ(parse({"-fdc", "x"}), none);
+    EXPECT_EQ(parse({"x", "-test"}), none);
+    EXPECT_EQ(parse({}), none);
+    EXPECT_EQ(parse({"x", "y", "-fdc"}), none) << "any other count is ignored";
 }
 
 } // namespace

@@ -1,20 +1,22 @@
 #include "clients/ClientFormRules.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 #include "app/Session.h"
 #include "clients/ClientFormQuestions.h"
 #include "store/CivilCalendar.h"
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
+#include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/TempFolder.h"
 
 namespace purrlodge {
 namespace {
+
+using testing::bytesOf;
+using Strings = std::vector<std::string>;
 
 // Answers the form's questions as set and records what was asked.
 struct ScriptedQuestions : ClientFormQuestions {
@@ -46,19 +48,8 @@ struct ScriptedQuestions : ClientFormQuestions {
     std::optional<LeavingCatAnswer> leaving; // Cancel unless set
     CatNameChoice nameChoice = CatNameChoice::NameChanged;
     std::vector<DateWarning> warnings;
-    std::vector<std::string> asked;
+    Strings asked;
 };
-
-template <class Block> std::string bytesOf(const Block& block)
-{
-    return std::string(reinterpret_cast<const char*>(&block), sizeof block);
-}
-
-std::string fileBytes(const std::filesystem::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 class ClientFormRulesTest : public ::testing::Test {
 protected:
@@ -68,13 +59,14 @@ protected:
         session.currentYear = 2009;
     }
 
-    static ClientForm annSmith()
+    static ClientForm annSmith(const char* firstName = "Anne", const char* surname = "Smith",
+                               const char* known = "1")
     {
         ClientForm form = newClientForm();
         form.style = "Mrs";
-        form.firstName = "Anne";
-        form.surname = "Smith";
-        form.known = "1";
+        form.firstName = firstName;
+        form.surname = surname;
+        form.known = known;
         form.mobile = "07700 900123";
         form.cats[0] = {"Tibbles", "Persian", "Grey", "2001", "f", "C+I-", "6/04"};
         return form;
@@ -104,16 +96,14 @@ protected:
         EXPECT_EQ(fakes.ui.messages, std::vector<Message>{expected});
     }
 
-    static ClientForm named(const char* firstName, const char* surname, const char* known)
-    {
-        ClientForm form = annSmith();
-        form.firstName = firstName;
-        form.surname = surname;
-        form.known = known;
-        return form;
-    }
-
     bool folderIsEmpty() const { return std::filesystem::is_empty(temp.root()); }
+
+    OtherCatRecord lastOtherCat()
+    {
+        OtherCatsFile others;
+        EXPECT_TRUE(session.folder.read("SmithAnn.XC2", others));
+        return others.cats[9];
+    }
 
     testing::TempFolder temp;
     testing::FakePorts fakes;
@@ -123,21 +113,23 @@ protected:
 
 TEST_F(ClientFormRulesTest, NamesAreCheckedInOrderWithTheirOwnMessages)
 {
-    expectRefusal(named("--", "ng", " -"),
+    expectRefusal(annSmith("--", "ng", " -"),
                   {"please enter a value for 'known' eg 1 if not known", "Missing Value"});
     expectRefusal(
-        named(" .-", "ng", "1"),
+        annSmith(" .-", "ng"),
         {"You must provide a First Name!\nIf not known insert 'unknown'", "Missing name"});
-    expectRefusal(named("Anne", "Ng", "1"), {"Surname must be more than 3 letters!", "Name Error"});
-    expectRefusal(named("Anne", "smith2", "1"),
+    expectRefusal(annSmith("Anne", "Ng"), {"Surname must be more than 3 letters!", "Name Error"});
+    expectRefusal(annSmith("Anne", "smith2"),
                   {"Surname must start with an Upper Case letter", "Name error"});
-    expectRefusal(named("Anne", "Smith2", "1"),
-                  {"The Surname contains an illegal character viz: '2'", "Illegal Character",
-                   MessageIcon::Exclamation});
+    expectRefusal(annSmith("Anne", "Smith2"), {"The Surname contains an illegal character viz: '2'",
+                                               "Illegal Character", MessageIcon::Exclamation});
+    for (const char* known : {"11", "-1"})
+        expectRefusal(annSmith("Anne", "Smith", known),
+                      {"'Known' values must be between 0 and 10", "Known Value Error"});
     EXPECT_TRUE(folderIsEmpty()) << "a failed check writes nothing";
 
     for (const char* surname : {"Fox", "O'Neil-Smith", "St. John"})
-        EXPECT_EQ(ok(named("Anne", surname, "1")), FormVerdict::Accept) << surname;
+        EXPECT_EQ(ok(annSmith("Anne", surname)), FormVerdict::Accept) << surname;
 }
 
 TEST_F(ClientFormRulesTest, CatRowEntriesAreCheckedAndRead)
@@ -154,13 +146,12 @@ TEST_F(ClientFormRulesTest, CatRowEntriesAreCheckedAndRead)
         {{"Tom", "", "", "", "", "", "06/2004"},
          {"Date-year should be just two figures eg:  04", "Date Error"}},
     };
+    ClientForm form = annSmith();
     for (const auto& [row, message] : failures) {
-        ClientForm form = annSmith();
         form.cats[1] = row;
         expectRefusal(form, message);
     }
     fakes.ui.messages.clear();
-    ClientForm form = annSmith();
     form.cats[1] = {"Tom", "", "", "", "", "c+ i-", "13/04"};
     EXPECT_EQ(ok(form), FormVerdict::StayOpen);
     EXPECT_TRUE(fakes.ui.messages.empty());
@@ -171,16 +162,13 @@ TEST_F(ClientFormRulesTest, CatRowEntriesAreCheckedAndRead)
     form.cats[1].lastVaccination = "";
     form.cats[2] = {"Kit", "", "", "", "m", "", ""};
     ASSERT_EQ(ok(form), FormVerdict::Accept);
-    const ClientRecord& saved = session.client;
-    for (int slot : {0, 1}) {
-        EXPECT_EQ(saved.catMicrochip[slot].get(), 2) << "C+I- and c+ i- are chipped";
-        EXPECT_EQ(saved.catInsurance[slot].get(), 1) << "and not insured";
-    }
-    EXPECT_EQ(saved.catMicrochip[2].get() + saved.catInsurance[2].get(), 0);
-    EXPECT_EQ(saved.catSex[0].get(), 4);
-    EXPECT_EQ(saved.catSex[1].get(), 0);
-    EXPECT_EQ(saved.catSex[2].get(), 3);
-    EXPECT_EQ(saved.catLastVaccination[0].get(), daysFromCivil(2004, 6, 1) * 86400 + 43200)
+    const auto firstThree = [](const auto& slots) {
+        return std::vector<int>{slots[0].get(), slots[1].get(), slots[2].get()};
+    };
+    EXPECT_EQ(firstThree(session.client.catMicrochip), (std::vector{2, 2, 0}));
+    EXPECT_EQ(firstThree(session.client.catInsurance), (std::vector{1, 1, 0}));
+    EXPECT_EQ(firstThree(session.client.catSex), (std::vector{4, 0, 3}));
+    EXPECT_EQ(session.client.catLastVaccination[0].get(), daysFromCivil(2004, 6, 1) * 86400 + 43200)
         << "6/04 is noon of 1 June 2004";
 }
 
@@ -204,23 +192,6 @@ TEST_F(ClientFormRulesTest, AnImprobableBirthYearAsksBeforeItIsKept)
     EXPECT_EQ(session.client.catBirthYear[0].get(), 1983);
 }
 
-TEST_F(ClientFormRulesTest, KnownLiesBetweenNoughtAndTenAndBlankOnEditClears)
-{
-    for (const char* known : {"11", "-1"})
-        expectRefusal(named("Anne", "Smith", known),
-                      {"'Known' values must be between 0 and 10", "Known Value Error"});
-    EXPECT_TRUE(folderIsEmpty()) << "the last check failing still writes nothing";
-
-    ClientForm form = editedThreeCatClient();
-    ASSERT_EQ(form.known, "1");
-    ASSERT_EQ(form.cats[0].lastVaccination, "06/04");
-    form.known = "";
-    form.cats[0].lastVaccination = "";
-    EXPECT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(session.client.knownRating.get(), 0);
-    EXPECT_EQ(session.client.catLastVaccination[0].get(), 0);
-}
-
 TEST_F(ClientFormRulesTest, ANewClientIsCodedIndexedAndWrittenByteForByte)
 {
     session.client.catName[3].set("Ghost"); // the previous current client
@@ -240,21 +211,20 @@ TEST_F(ClientFormRulesTest, ANewClientIsCodedIndexedAndWrittenByteForByte)
     ASSERT_EQ(session.index.usedCount(), 1);
     EXPECT_EQ(session.index.entries[1].key.str(), "Smith");
     EXPECT_EQ(session.index.entries[1].code.str(), "SmithAnn");
-    EXPECT_EQ(fileBytes(temp.root() / "SmithAnn.DAT"), bytesOf(client));
-    EXPECT_EQ(fileBytes(temp.root() / "FIDEX.CTL"), bytesOf(session.index));
+    EXPECT_EQ(testing::fileBytes(temp.root() / "SmithAnn.DAT"), bytesOf(client));
+    EXPECT_EQ(testing::fileBytes(temp.root() / "FIDEX.CTL"), bytesOf(session.index));
 }
 
 TEST_F(ClientFormRulesTest, AFullIndexRefusesANewClientAndWritesNothing)
 {
     for (int i = 0; i < maxClients; ++i)
         appendEntry(session.index, "Someone", "CODE" + std::to_string(i));
-    ASSERT_TRUE(newClientRefusal(session.index).has_value());
-    expectRefusal(annSmith(), *newClientRefusal(session.index));
+    expectRefusal(annSmith(), newClientRefusal(session.index).value());
     EXPECT_EQ(fakes.ui.messages[0].title, "Client List Full");
     EXPECT_TRUE(folderIsEmpty());
 }
 
-TEST_F(ClientFormRulesTest, RedNotesKeepOneMarkerAndEditingRoundTrips)
+TEST_F(ClientFormRulesTest, EditingRoundTripsAndBlankKnownAndVaccinationClear)
 {
     EXPECT_EQ(storedNoteLine("Diabetic", true), "#R# Diabetic");
     EXPECT_EQ(storedNoteLine("#R# Diabetic", false), "Diabetic");
@@ -266,14 +236,21 @@ TEST_F(ClientFormRulesTest, RedNotesKeepOneMarkerAndEditingRoundTrips)
 
     // Opening and saving again changes nothing, the notes and mobile included.
     const ClientRecord before = session.client;
-    const ClientForm reopened = clientFormFrom(session.client);
+    ClientForm reopened = clientFormFrom(session.client);
     EXPECT_TRUE(reopened.redNote[0]);
     EXPECT_EQ(reopened.notes[0], "Diabetic");
     EXPECT_EQ(reopened.mobile, "07700 900123");
+    EXPECT_EQ(reopened.known, "1");
     EXPECT_EQ(reopened.cats[0],
               (CatRowEntries{"Tibbles", "Persian", "Grey", "2001", "f", "C+I-", "06/04"}));
     ASSERT_EQ(ok(reopened), FormVerdict::Accept);
     EXPECT_EQ(bytesOf(session.client), bytesOf(before));
+
+    reopened.known = "";
+    reopened.cats[0].lastVaccination = "";
+    EXPECT_EQ(ok(reopened), FormVerdict::Accept);
+    EXPECT_EQ(session.client.knownRating.get(), 0);
+    EXPECT_EQ(session.client.catLastVaccination[0].get(), 0);
 }
 
 TEST_F(ClientFormRulesTest, ASurnameChangeIsSavedAtOnceOnlyWhenConfirmed)
@@ -312,9 +289,10 @@ TEST_F(ClientFormRulesTest, AnEmptiedRowSendsItsCatToOtherCatsAndPacksTheRest)
 
     questions.leaving = LeavingCatAnswer{LeavingReason::NewHome, "To her sister"};
     ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, (std::vector<std::string>{"left Felix", "left Felix"}));
-    EXPECT_EQ(fakes.ui.messages[0].text, "Felix has been moved to Anne Smith's 'Other Cats' list");
-    EXPECT_EQ(fakes.ui.messages[0].title, "Other Cats");
+    EXPECT_EQ(questions.asked, (Strings{"left Felix", "left Felix"}));
+    EXPECT_EQ(fakes.ui.messages,
+              (std::vector<Message>{
+                  {"Felix has been moved to Anne Smith's 'Other Cats' list", "Other Cats"}}));
 
     const ClientRecord& client = session.client;
     EXPECT_EQ(client.catName[1].str(), "Sooty");
@@ -322,11 +300,10 @@ TEST_F(ClientFormRulesTest, AnEmptiedRowSendsItsCatToOtherCatsAndPacksTheRest)
     EXPECT_TRUE(client.catExtraCode[1].isEmpty()) << "Felix's tag left with him";
     EXPECT_EQ(client.favouriteFoods[0][1].str(), "Chicken") << "foods stay with their slots";
 
-    OtherCatsFile others;
-    ASSERT_TRUE(session.folder.read("SmithAnn.XC2", others));
-    EXPECT_EQ(others.cats[9].name.str(), "Felix");
-    EXPECT_EQ(others.cats[9].reason.str(), "Rehomed");
-    EXPECT_EQ(others.cats[9].history.str(), "Born 2003,   Departed 15/06/09,   age 6");
+    const OtherCatRecord felix = lastOtherCat();
+    EXPECT_EQ(felix.name.str(), "Felix");
+    EXPECT_EQ(felix.reason.str(), "Rehomed");
+    EXPECT_EQ(felix.history.str(), "Born 2003,   Departed 15/06/09,   age 6");
 }
 
 TEST_F(ClientFormRulesTest, ARenamedRowIsTheSameCatOrANewOne)
@@ -338,7 +315,7 @@ TEST_F(ClientFormRulesTest, ARenamedRowIsTheSameCatOrANewOne)
 
     form.cats[1].name = "Oscar";
     ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, std::vector<std::string>{"felix >Oscar"});
+    EXPECT_EQ(questions.asked, Strings{"felix >Oscar"});
     EXPECT_EQ(session.client.catExtraCode[1].str(), "X1") << "a renamed cat keeps its tag";
     EXPECT_FALSE(session.folder.exists("SmithAnn.XC2"));
 
@@ -347,13 +324,10 @@ TEST_F(ClientFormRulesTest, ARenamedRowIsTheSameCatOrANewOne)
     questions.nameChoice = CatNameChoice::NewCat;
     questions.leaving = LeavingCatAnswer{LeavingReason::Death, ""};
     ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, (std::vector<std::string>{"Oscar>Bella", "left Oscar"}));
+    EXPECT_EQ(questions.asked, (Strings{"Oscar>Bella", "left Oscar"}));
     EXPECT_TRUE(session.client.catExtraCode[1].isEmpty());
-
-    OtherCatsFile others;
-    ASSERT_TRUE(session.folder.read("SmithAnn.XC2", others));
-    EXPECT_EQ(others.cats[9].name.str(), "Oscar");
-    EXPECT_EQ(others.cats[9].breed.str(), "Siamese") << "the old cat's details, not the new";
+    EXPECT_EQ(lastOtherCat().name.str(), "Oscar");
+    EXPECT_EQ(lastOtherCat().breed.str(), "Siamese") << "the old cat's details, not the new";
 }
 
 } // namespace

@@ -146,10 +146,10 @@ TEST_F(GlobalSearchTest, NothingFoundOrNothingTicked)
 {
     Lines noMatch(10, "");
     noMatch.push_back("                     No match found");
-    EXPECT_EQ(search("Zebedee", false).lines, noMatch);
-    EXPECT_FALSE(search("Zebedee", false).showDetails);
-    EXPECT_EQ(search("Quill", true, GlobalSearchGroups{}).lines, noMatch);
-    EXPECT_FALSE(search("Quill", true, GlobalSearchGroups{}).showDetails);
+    for (const auto& result : {search("Zebedee", false), search("Quill", true, {})}) {
+        EXPECT_EQ(result.lines, noMatch);
+        EXPECT_FALSE(result.showDetails);
+    }
 }
 
 TEST_F(GlobalSearchTest, GeneratedDataSetInBothCaseModes)
@@ -179,18 +179,9 @@ TEST_F(GlobalSearchTest, GeneratedDataSetInBothCaseModes)
             EXPECT_NE(std::find(anyCase.begin(), anyCase.end(), line), anyCase.end()) << line;
     }
 
-    // Every line names its client by the code at its end and, when it has
-    // one, by the index position before it.
-    for (const auto& line : anyCase) {
-        const std::string code = codeOfResultLine(line);
-        const int position = findCode(data->index, code);
-        ASSERT_GT(position, 0) << line;
-        if (line.find("\t(") != std::string::npos) {
-            EXPECT_NE(line.find("\t\t" + std::to_string(position) + " \t" + code),
-                      std::string::npos)
-                << line;
-        }
-    }
+    // Every line ends in its client's code, by which the details are opened.
+    for (const auto& line : anyCase)
+        EXPECT_GT(findCode(data->index, codeOfResultLine(line)), 0) << line;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "clients/EarlierCatRecord.h"
 #include "clients/LeavingCat.h"
 #include "store/DataFolder.h"
+#include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/TempFolder.h"
 
@@ -13,6 +14,7 @@ namespace purrlodge {
 namespace {
 
 using Lines = std::vector<std::string>;
+using testing::bytesOf;
 
 EarlierCatRecord earlierCat(std::string_view name, int sex, std::string_view note)
 {
@@ -39,11 +41,6 @@ protected:
     void writeFile(std::string_view name, const std::string& bytes)
     {
         std::ofstream(folder.fileName(name), std::ios::binary) << bytes;
-    }
-
-    static std::string bytesOf(const EarlierCatRecord& cat)
-    {
-        return std::string(reinterpret_cast<const char*>(&cat), sizeof cat);
     }
 
     // One former cat with notes and one without, as the client form files them.
@@ -87,13 +84,12 @@ TEST_F(OtherCatsListTest, EarlierSpecialNotesThenTheOtherCats)
     EXPECT_EQ(listing.heading, "\nSummary of previous cats belonging to Anne Smith");
 }
 
-TEST_F(OtherCatsListTest, EarlierCatsKeepTheirOwnSexCoding)
+TEST(OtherCatsList, EarlierCatsKeepTheirOwnSexCoding)
 {
-    EXPECT_EQ(earlierCatSexLetter(4), 'f');
-    EXPECT_EQ(earlierCatSexLetter(3), 'F');
-    EXPECT_EQ(earlierCatSexLetter(2), 'm');
-    EXPECT_EQ(earlierCatSexLetter(1), 'M');
-    EXPECT_EQ(earlierCatSexLetter(0), 'M');
+    std::string letters;
+    for (int sex = 0; sex <= 4; ++sex)
+        letters += earlierCatSexLetter(sex);
+    EXPECT_EQ(letters, "MMmFf");
 }
 
 TEST_F(OtherCatsListTest, NoteBookListsItsNonEmptyLinesThenTheOtherCats)

@@ -9,6 +9,7 @@
 #include "accounts/CatteryFiles.h"
 #include "app/CommandIds.h"
 #include "app/StartupSequence.h"
+#include "gui/DialogInput.h"
 #include "gui/ModalAnswers.h"
 #include "gui/ShellFixture.h"
 #include "gui/accounts/TDlg14.h"
@@ -19,37 +20,6 @@ using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template <class Widget> Widget* child(QWidget* dialog, const QString& name)
-{
-    auto* found = dialog->findChild<Widget*>(name);
-    if (found == nullptr)
-        qFatal("no widget named %s", qPrintable(name));
-    return found;
-}
-
-QLineEdit* edit(QWidget* dialog, const QString& name)
-{
-    return child<QLineEdit>(dialog, name);
-}
-
-// Types into the edit as a person does, over what it held.
-void retype(QWidget* dialog, const QString& name, const QString& text)
-{
-    QLineEdit* box = edit(dialog, name);
-    box->clear();
-    QTest::keyClicks(box, text);
-}
-
-void pressOk(QWidget* dialog)
-{
-    clickLater(standardButton(dialog, QDialogButtonBox::Ok));
-}
-
-void runCommand(ShellFixture& shell, int commandId)
-{
-    shell.window.actionsFor(commandId).first()->trigger();
-}
 
 QByteArray fileBytes(const std::string& folder, std::string_view name)
 {
@@ -128,7 +98,7 @@ private slots:
             child<QRadioButton>(dialog, u"updatePreviousYesRadioButton"_s)->setChecked(true);
             pressOk(dialog);
         }});
-        runCommand(shell, command::setRates);
+        shell.trigger(command::setRates);
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(), QStringList{u"Setup Daily Board Rates"_s});
 
@@ -214,9 +184,9 @@ private slots:
                 clickLater(standardButton(dialog, QDialogButtonBox::Cancel));
             },
         });
-        runCommand(shell, command::setStandardExtra);
-        runCommand(shell, command::setAccountNumber);
-        runCommand(shell, command::setAccountNumber);
+        shell.trigger(command::setStandardExtra);
+        shell.trigger(command::setAccountNumber);
+        shell.trigger(command::setAccountNumber);
         QVERIFY(answers.allAnswered());
 
         RatesRecord expectedRates = onDisc;
@@ -253,7 +223,7 @@ private slots:
             QTest::keyClicks(first, u"77"_s);
             clickLater(standardButton(dialog, QDialogButtonBox::Cancel));
         }});
-        runCommand(shell, commandId);
+        shell.trigger(commandId);
         QVERIFY(answers.allAnswered());
         QCOMPARE(QDir(shell.dataFolder.path()).entryList(QDir::Files), QStringList());
         QCOMPARE(shell.session.index.lastAccountNumber.get(), 0);

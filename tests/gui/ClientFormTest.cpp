@@ -7,6 +7,7 @@
 
 #include "app/CommandIds.h"
 #include "clients/OtherCatsFile.h"
+#include "gui/DialogInput.h"
 #include "gui/ModalAnswers.h"
 #include "gui/ShellFixture.h"
 #include "gui/clients/ClientCommands.h"
@@ -19,31 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QLineEdit* edit(QWidget* dialog, const QString& name)
-{
-    auto* found = dialog->findChild<QLineEdit*>(name);
-    if (found == nullptr)
-        qFatal("no edit named %s", qPrintable(name));
-    return found;
-}
-
-// Types into a box as a person would, over whatever it held.
-void type(QWidget* dialog, const QString& name, const QString& text)
-{
-    QLineEdit* box = edit(dialog, name);
-    box->selectAll();
-    QTest::keyClick(box, Qt::Key_Backspace);
-    QTest::keyClicks(box, text);
-}
-
 QString catBox(int row, const char* column)
 {
     return u"cat%1%2Edit"_s.arg(row).arg(QLatin1StringView(column));
-}
-
-void pressOk(QWidget* dialog)
-{
-    clickLater(standardButton(dialog, QDialogButtonBox::Ok));
 }
 
 // An answer that checks a message box's text and closes it.
@@ -55,11 +34,6 @@ ModalAnswers::Answer expectMessage(const QString& text)
         QCOMPARE(box->text(), text);
         clickLater(box->button(QMessageBox::Ok));
     };
-}
-
-void triggerNewClient(ShellFixture& shell)
-{
-    shell.window.actionsFor(command::newClient).first()->trigger();
 }
 
 } // namespace
@@ -75,31 +49,31 @@ private slots:
         bool savedTooEarly = true;
         ModalAnswers answers({
             [](QWidget* dialog) {
-                type(dialog, u"surnameEdit"_s, u"Ng"_s);
-                type(dialog, u"firstNameEdit"_s, u"Ann"_s);
-                type(dialog, u"styleEdit"_s, u"Mrs"_s);
-                type(dialog, u"address1Edit"_s, u"1 Mews Row"_s);
-                type(dialog, u"address4Edit"_s, u"Purrington"_s);
-                type(dialog, u"telephoneEdit"_s, u"01234 567890"_s);
-                type(dialog, u"mobileEdit"_s, QString(90, u'7'));
-                type(dialog, u"emailEdit"_s, u"ann@example.com"_s);
-                type(dialog, u"vetEdit"_s, u"Dr Paws"_s);
-                type(dialog, catBox(1, "Name"), u"Tibbles"_s);
-                type(dialog, catBox(1, "Breed"), u"Moggy"_s);
-                type(dialog, catBox(1, "Colour"), u"Tabby"_s);
-                type(dialog, catBox(1, "BirthYear"), u"2019"_s);
-                type(dialog, catBox(1, "Sex"), u"f"_s);
-                type(dialog, catBox(1, "ChipInsurance"), u"C+I-"_s);
-                type(dialog, catBox(1, "LastVaccination"), u"06/23"_s);
-                type(dialog, catBox(3, "Name"), u"Pip"_s);
-                type(dialog, catBox(3, "Sex"), u"M"_s);
-                type(dialog, u"knownEdit"_s, u"1"_s);
-                type(dialog, u"lastInEdit"_s, u"01/02/23"_s);
-                type(dialog, u"note2Edit"_s, u"Nervous of dogs"_s);
+                retype(dialog, u"surnameEdit"_s, u"Ng"_s);
+                retype(dialog, u"firstNameEdit"_s, u"Ann"_s);
+                retype(dialog, u"styleEdit"_s, u"Mrs"_s);
+                retype(dialog, u"address1Edit"_s, u"1 Mews Row"_s);
+                retype(dialog, u"address4Edit"_s, u"Purrington"_s);
+                retype(dialog, u"telephoneEdit"_s, u"01234 567890"_s);
+                retype(dialog, u"mobileEdit"_s, QString(90, u'7'));
+                retype(dialog, u"emailEdit"_s, u"ann@example.com"_s);
+                retype(dialog, u"vetEdit"_s, u"Dr Paws"_s);
+                retype(dialog, catBox(1, "Name"), u"Tibbles"_s);
+                retype(dialog, catBox(1, "Breed"), u"Moggy"_s);
+                retype(dialog, catBox(1, "Colour"), u"Tabby"_s);
+                retype(dialog, catBox(1, "BirthYear"), u"2019"_s);
+                retype(dialog, catBox(1, "Sex"), u"f"_s);
+                retype(dialog, catBox(1, "ChipInsurance"), u"C+I-"_s);
+                retype(dialog, catBox(1, "LastVaccination"), u"06/23"_s);
+                retype(dialog, catBox(3, "Name"), u"Pip"_s);
+                retype(dialog, catBox(3, "Sex"), u"M"_s);
+                retype(dialog, u"knownEdit"_s, u"1"_s);
+                retype(dialog, u"lastInEdit"_s, u"01/02/23"_s);
+                retype(dialog, u"note2Edit"_s, u"Nervous of dogs"_s);
                 QTest::keyClick(dialog->findChild<QCheckBox*>(u"redNote2CheckBox"_s),
                                 Qt::Key_Space);
-                type(dialog, u"favouriteFood3Edit"_s, u"Chicken"_s);
-                type(dialog, u"forbiddenFood1Edit"_s, u"Fish"_s);
+                retype(dialog, u"favouriteFood3Edit"_s, u"Chicken"_s);
+                retype(dialog, u"forbiddenFood1Edit"_s, u"Fish"_s);
                 pressOk(dialog);
             },
             expectMessage(u"Surname must be more than 3 letters!"_s),
@@ -109,11 +83,11 @@ private slots:
                 QCOMPARE(edit(dialog, catBox(1, "Name"))->text(), u"Tibbles"_s);
                 QVERIFY(dialog->findChild<QCheckBox*>(u"redNote2CheckBox"_s)->isChecked());
                 savedTooEarly = shell.session.folder.exists(currentIndexFile);
-                type(dialog, u"surnameEdit"_s, u"Nguyen"_s);
+                retype(dialog, u"surnameEdit"_s, u"Nguyen"_s);
                 pressOk(dialog);
             },
         });
-        triggerNewClient(shell);
+        shell.trigger(command::newClient);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(), QStringList({u"Full Client Information"_s, u"Name Error"_s,
@@ -166,11 +140,11 @@ private slots:
         shell.session.currentYear = 2023;
         ModalAnswers answers({
             [](QWidget* dialog) {
-                type(dialog, u"surnameEdit"_s, u"Fox"_s);
-                type(dialog, u"firstNameEdit"_s, u"Tom"_s);
-                type(dialog, u"knownEdit"_s, u"2"_s);
-                type(dialog, catBox(1, "Name"), u"Methuselah"_s);
-                type(dialog, catBox(1, "BirthYear"), u"1950"_s);
+                retype(dialog, u"surnameEdit"_s, u"Fox"_s);
+                retype(dialog, u"firstNameEdit"_s, u"Tom"_s);
+                retype(dialog, u"knownEdit"_s, u"2"_s);
+                retype(dialog, catBox(1, "Name"), u"Methuselah"_s);
+                retype(dialog, catBox(1, "BirthYear"), u"1950"_s);
                 pressOk(dialog);
             },
             [](QWidget* warning) {
@@ -185,7 +159,7 @@ private slots:
             },
             press(QDialogButtonBox::Ok), // Continue
         });
-        triggerNewClient(shell);
+        shell.trigger(command::newClient);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(),
@@ -201,7 +175,7 @@ private slots:
         ShellFixture shell;
         shell.session.index.count.set(maxClients);
         ModalAnswers answers({press(QDialogButtonBox::Ok)});
-        triggerNewClient(shell);
+        shell.trigger(command::newClient);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(), QStringList({u"Client List Full"_s}));
@@ -234,14 +208,14 @@ private slots:
                 QCOMPARE(edit(dialog, u"note1Edit"_s)->text(), u"Nervous"_s);
                 QVERIFY(dialog->findChild<QCheckBox*>(u"redNote1CheckBox"_s)->isChecked());
                 QCOMPARE(edit(dialog, catBox(2, "ChipInsurance"))->text(), u"C+"_s);
-                type(dialog, catBox(2, "Name"), QString());
+                retype(dialog, catBox(2, "Name"), QString());
                 pressOk(dialog);
             },
             [](QWidget* leaving) {
                 QCOMPARE(leaving->findChild<QLabel*>(u"captionLabel"_s)->text(),
                          u"What happened to Smudge ?"_s);
                 leaving->findChild<QRadioButton*>(u"newHomeRadioButton"_s)->setChecked(true);
-                type(leaving, u"notesEdit"_s, u"Lives with Ann's sister"_s);
+                retype(leaving, u"notesEdit"_s, u"Lives with Ann's sister"_s);
                 pressOk(leaving);
             },
             expectMessage(u"Smudge has been moved to Ann Nguyen's 'Other Cats' list"_s),

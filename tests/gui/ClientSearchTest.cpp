@@ -13,6 +13,7 @@
 #include "clients/GlobalSearch.h"
 #include "clients/LeavingCat.h"
 #include "clients/OtherCatsList.h"
+#include "gui/DialogInput.h"
 #include "gui/ModalAnswers.h"
 #include "gui/ShellFixture.h"
 #include "gui/Text1252.h"
@@ -26,14 +27,6 @@ using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template <class Widget> Widget* child(QWidget* dialog, const QString& name)
-{
-    auto* found = dialog->findChild<Widget*>(name);
-    if (found == nullptr)
-        qFatal("no widget named %s in %s", qPrintable(name), qPrintable(dialog->objectName()));
-    return found;
-}
 
 QStringList shown(const std::vector<std::string>& lines)
 {
@@ -59,11 +52,6 @@ ModalAnswers::Answer typeName(const QString& name)
     };
 }
 
-void pressOk(QWidget* dialog)
-{
-    clickLater(standardButton(dialog, QDialogButtonBox::Ok));
-}
-
 // A generated data set as start-up leaves it: the index in memory.
 struct DataSetShell : ShellFixture {
     explicit DataSetShell(int clients)
@@ -85,8 +73,6 @@ struct DataSetShell : ShellFixture {
                                           session.ports.clock)
                          .lines);
     }
-
-    void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
 };
 
 } // namespace

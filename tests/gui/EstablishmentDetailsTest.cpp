@@ -7,29 +7,13 @@
 
 #include "accounts/CatteryFiles.h"
 #include "app/CommandIds.h"
+#include "gui/DialogInput.h"
 #include "gui/ModalAnswers.h"
 #include "gui/ShellFixture.h"
 
 using namespace purrlodge;
 using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QLineEdit* edit(QWidget* dialog, const QString& name)
-{
-    auto* found = dialog->findChild<QLineEdit*>(name);
-    if (found == nullptr)
-        qFatal("no edit named %s", qPrintable(name));
-    return found;
-}
-
-void pressOk(QWidget* dialog)
-{
-    clickLater(standardButton(dialog, QDialogButtonBox::Ok));
-}
-
-} // namespace
 
 class EstablishmentDetailsTest : public QObject {
     Q_OBJECT
@@ -63,7 +47,7 @@ private slots:
                 pressOk(dialog);
             },
         });
-        shell.window.actionsFor(command::catteryDetails).first()->trigger();
+        shell.trigger(command::catteryDetails);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(), QStringList({u"Establishment Details"_s, u"Text Size Error"_s,
@@ -99,9 +83,8 @@ private slots:
                 clickLater(standardButton(dialog, QDialogButtonBox::Cancel));
             },
         });
-        QAction* catteryDetails = shell.window.actionsFor(command::catteryDetails).first();
-        catteryDetails->trigger();
-        catteryDetails->trigger();
+        shell.trigger(command::catteryDetails);
+        shell.trigger(command::catteryDetails);
 
         QVERIFY(answers.allAnswered());
         EstablishmentRecord saved{};
@@ -123,7 +106,7 @@ private slots:
             },
             press(QDialogButtonBox::Ok), // Entry Void
         });
-        shell.window.actionsFor(command::catteryDetails).first()->trigger();
+        shell.trigger(command::catteryDetails);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles().last(), u"Entry Void"_s);

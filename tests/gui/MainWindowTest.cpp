@@ -262,7 +262,7 @@ private slots:
             },
             press(QDialogButtonBox::Ok), // the confirmation
         });
-        shell.window.actionsFor(command::changeDataSet).first()->trigger();
+        shell.trigger(command::changeDataSet);
 
         QVERIFY(answers.allAnswered());
         QCOMPARE(answers.titles(), texts({"Change Data Source", "Change Data Source Help",
@@ -278,7 +278,7 @@ private slots:
         ShellFixture shell;
         shell.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&shell.window));
-        shell.window.actionsFor(command::exitProgram).first()->trigger();
+        shell.trigger(command::exitProgram);
         QVERIFY(!shell.window.isVisible());
     }
 };

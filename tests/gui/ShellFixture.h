@@ -28,6 +28,9 @@ struct ShellFixture {
     ShellFixture() { ui.setMainWindow(&window); }
 
     [[nodiscard]] std::string folder() const { return session.folder.path(); }
+
+    // Runs a command as its first menu item or tool-bar button would.
+    void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
 };
 
 } // namespace purrlodge::testing

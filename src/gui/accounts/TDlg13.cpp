@@ -11,7 +11,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
+#include "gui/PackedRow.h"
+#include "gui/RadioButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -33,7 +36,7 @@ QLineEdit* addField(QFormLayout* form, const QString& label, const QString& obje
 
 TDlg13::TDlg13(const EstablishmentForm& initial, const std::string& dataFolder,
                AcceptForm acceptForm, QWidget* parent)
-    : QDialog(parent), acceptForm_(std::move(acceptForm))
+    : FormDialog([this, acceptForm = std::move(acceptForm)] { return acceptForm(form()); }, parent)
 {
     setObjectName(QStringLiteral("establishmentDetailsDialog"));
     setWindowTitle(QStringLiteral("Establishment Details"));
@@ -88,37 +91,26 @@ TDlg13::TDlg13(const EstablishmentForm& initial, const std::string& dataFolder,
     chequesPayableToEdit_ = addField(printForm, QStringLiteral("C&heques payable to:"),
                                      QStringLiteral("chequesPayableToEdit"), printBox);
 
-    inRedRadioButton_ = new QRadioButton(QStringLiteral("In &Red"), printBox);
-    inRedRadioButton_->setObjectName(QStringLiteral("inRedRadioButton"));
-    inBlackRadioButton_ = new QRadioButton(QStringLiteral("In &Black"), printBox);
-    inBlackRadioButton_->setObjectName(QStringLiteral("inBlackRadioButton"));
     auto* colourGroup = new QButtonGroup(this);
-    colourGroup->addButton(inRedRadioButton_);
-    colourGroup->addButton(inBlackRadioButton_);
-    auto* colourRow = new QHBoxLayout;
-    colourRow->addWidget(inRedRadioButton_);
-    colourRow->addWidget(inBlackRadioButton_);
-    colourRow->addStretch(1);
-    printForm->addRow(QStringLiteral("Cheques line:"), colourRow);
+    inRedRadioButton_ = newRadioButton(QStringLiteral("In &Red"),
+                                       QStringLiteral("inRedRadioButton"), colourGroup, printBox);
+    inBlackRadioButton_ = newRadioButton(
+        QStringLiteral("In &Black"), QStringLiteral("inBlackRadioButton"), colourGroup, printBox);
+    printForm->addRow(QStringLiteral("Cheques line:"),
+                      newPackedRow({inRedRadioButton_, inBlackRadioButton_}));
 
     arrivalSheetCheckBox_ = new QCheckBox(QStringLiteral("Arr&ival Sheet"), printBox);
     arrivalSheetCheckBox_->setObjectName(QStringLiteral("arrivalSheetCheckBox"));
     accountSheetCheckBox_ = new QCheckBox(QStringLiteral("A&ccount Sheet"), printBox);
     accountSheetCheckBox_->setObjectName(QStringLiteral("accountSheetCheckBox"));
-    auto* sheetsRow = new QHBoxLayout;
-    sheetsRow->addWidget(arrivalSheetCheckBox_);
-    sheetsRow->addWidget(accountSheetCheckBox_);
-    sheetsRow->addStretch(1);
-    printForm->addRow(QStringLiteral("Cattery name on:"), sheetsRow);
+    printForm->addRow(QStringLiteral("Cattery name on:"),
+                      newPackedRow({arrivalSheetCheckBox_, accountSheetCheckBox_}));
 
     auto* columns = new QHBoxLayout;
     columns->addWidget(catteryBox, 1);
     columns->addWidget(printBox, 1);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg13::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(folderRow);
@@ -174,15 +166,6 @@ EstablishmentForm TDlg13::form() const
     form.onAccountSheet = accountSheetCheckBox_->isChecked();
     form.inRed = inRedRadioButton_->isChecked();
     return form;
-}
-
-void TDlg13::accept()
-{
-    const FormVerdict verdict = acceptForm_(form());
-    if (verdict == FormVerdict::StayOpen)
-        return;
-    verdict_ = verdict;
-    QDialog::accept();
 }
 
 } // namespace purrlodge

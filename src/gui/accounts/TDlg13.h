@@ -1,12 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 
-#include <QDialog>
-
 #include "accounts/EstablishmentForm.h"
+#include "gui/FormDialog.h"
 
 class QCheckBox;
 class QLineEdit;
@@ -17,7 +15,7 @@ namespace purrlodge {
 // "Establishment Details" (DIALOG 13): the cattery's own details. A thin view
 // over EstablishmentForm: OK hands the entries to the accept function, whose
 // verdict decides whether the dialog closes or stays open as typed.
-class TDlg13 : public QDialog {
+class TDlg13 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -29,11 +27,6 @@ public:
 
     // The entries as they stand.
     [[nodiscard]] EstablishmentForm form() const;
-
-    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
-    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
-
-    void accept() override;
 
 private:
     void fill(const EstablishmentForm& form);
@@ -53,9 +46,6 @@ private:
     QCheckBox* accountSheetCheckBox_;    // 131
     QRadioButton* inRedRadioButton_;     // 139
     QRadioButton* inBlackRadioButton_;   // 140
-
-    AcceptForm acceptForm_;
-    std::optional<FormVerdict> verdict_;
 };
 
 } // namespace purrlodge

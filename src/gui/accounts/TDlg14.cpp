@@ -10,7 +10,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
+#include "gui/PackedRow.h"
+#include "gui/RadioButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -26,13 +29,6 @@ QLabel* newStatic(const QString& objectName, QWidget* parent)
     label->setObjectName(objectName);
     label->setTextFormat(Qt::PlainText);
     return label;
-}
-
-QRadioButton* newRadioButton(const QString& text, const QString& objectName, QWidget* parent)
-{
-    auto* button = new QRadioButton(text, parent);
-    button->setObjectName(objectName);
-    return button;
 }
 
 // Tab stops once in a group of radio buttons, on its checked button (the
@@ -55,7 +51,8 @@ void keepOneTabStop(QButtonGroup* group)
 } // namespace
 
 TDlg14::TDlg14(const RatesForm& initial, AcceptForm acceptForm, QWidget* parent)
-    : QDialog(parent), shown_(initial), acceptForm_(std::move(acceptForm))
+    : FormDialog([this, acceptForm = std::move(acceptForm)] { return acceptForm(form()); }, parent),
+      shown_(initial)
 {
     setObjectName(QStringLiteral("ratesDialog"));
     setWindowTitle(QStringLiteral("Setup Daily Board Rates"));
@@ -78,10 +75,7 @@ TDlg14::TDlg14(const RatesForm& initial, AcceptForm acceptForm, QWidget* parent)
     columns->addWidget(ratesBox);
     columns->addLayout(rightColumn);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg14::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(todayLabel_);
@@ -109,27 +103,24 @@ QWidget* TDlg14::newRatesBox()
     grid->addWidget(presentHeading, 0, 1, Qt::AlignRight);
     grid->addWidget(previousHeading, 0, 2, Qt::AlignRight);
 
-    // Room for seven digits and a little more, so a full edit is not cramped.
-    const int rateWidth = fontMetrics().horizontalAdvance(QString(9, QLatin1Char('0')));
     for (std::size_t cats = 0; cats < 6; ++cats) {
         const int number = static_cast<int>(cats) + 1;
         const int row = number;
 
+        // Room for seven digits and a little more, so a full edit is not cramped.
         QLineEdit* edit =
-            newFieldEdit(QStringLiteral("presentRate%1Edit").arg(number), rateFieldWidth, box);
-        edit->setAlignment(Qt::AlignRight);
-        edit->setFixedWidth(rateWidth);
+            newNumberEdit(QStringLiteral("presentRate%1Edit").arg(number), rateFieldWidth, 9, box);
         presentRateEdit_[cats] = edit;
 
-        auto* catsLabel = new QLabel(
-            number == 1 ? QStringLiteral("&1 cat:") : QStringLiteral("&%1 cats:").arg(number), box);
-        catsLabel->setBuddy(edit);
+        QLabel* catsLabel = newBuddyLabel(number == 1 ? QStringLiteral("&1 cat:")
+                                                      : QStringLiteral("&%1 cats:").arg(number),
+                                          edit, box);
 
         QLabel* previous = newStatic(QStringLiteral("previousRate%1Label").arg(number), box);
         previous->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         previous->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         // Not fixed: a rate saved with more digits than an edit takes still shows whole.
-        previous->setMinimumWidth(rateWidth);
+        previous->setMinimumWidth(edit->minimumWidth());
         previous->setMinimumHeight(edit->sizeHint().height());
         previousRateLabel_[cats] = previous;
 
@@ -154,11 +145,8 @@ QWidget* TDlg14::newCurrencyBox()
         {QStringLiteral("Othe&r"), QStringLiteral("otherRadioButton")},
     }};
     int id = 0;
-    for (const auto& [text, objectName] : currencies) {
-        QRadioButton* button = newRadioButton(text, objectName, box);
-        currencyGroup_->addButton(button, id++);
-        column->addWidget(button);
-    }
+    for (const auto& [text, objectName] : currencies)
+        column->addWidget(newRadioButton(text, objectName, currencyGroup_, box, id++));
     return box;
 }
 
@@ -166,13 +154,11 @@ QWidget* TDlg14::newChargingUnitBox()
 {
     auto* box = new QGroupBox(QStringLiteral("Charge"), this);
     auto* column = new QVBoxLayout(box);
-    perDayRadioButton_ =
-        newRadioButton(QStringLiteral("&Per Day"), QStringLiteral("perDayRadioButton"), box);
-    perNightRadioButton_ =
-        newRadioButton(QStringLiteral("Per Ni&ght"), QStringLiteral("perNightRadioButton"), box);
     auto* group = new QButtonGroup(this);
-    group->addButton(perDayRadioButton_);
-    group->addButton(perNightRadioButton_);
+    perDayRadioButton_ =
+        newRadioButton(QStringLiteral("&Per Day"), QStringLiteral("perDayRadioButton"), group, box);
+    perNightRadioButton_ = newRadioButton(QStringLiteral("Per Ni&ght"),
+                                          QStringLiteral("perNightRadioButton"), group, box);
     column->addWidget(perDayRadioButton_);
     column->addWidget(perNightRadioButton_);
     return box;
@@ -189,18 +175,14 @@ QWidget* TDlg14::newUpdatePreviousBox()
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
 
-    updatePreviousYesRadioButton_ =
-        newRadioButton(QStringLiteral("&Yes"), QStringLiteral("updatePreviousYesRadioButton"), box);
-    updatePreviousNoRadioButton_ =
-        newRadioButton(QStringLiteral("&No"), QStringLiteral("updatePreviousNoRadioButton"), box);
     auto* group = new QButtonGroup(this);
-    group->addButton(updatePreviousYesRadioButton_);
-    group->addButton(updatePreviousNoRadioButton_);
+    updatePreviousYesRadioButton_ = newRadioButton(
+        QStringLiteral("&Yes"), QStringLiteral("updatePreviousYesRadioButton"), group, box);
+    updatePreviousNoRadioButton_ = newRadioButton(
+        QStringLiteral("&No"), QStringLiteral("updatePreviousNoRadioButton"), group, box);
 
-    auto* answers = new QHBoxLayout;
-    answers->addWidget(updatePreviousYesRadioButton_);
-    answers->addWidget(updatePreviousNoRadioButton_);
-    answers->addStretch(1);
+    QHBoxLayout* answers =
+        newPackedRow({updatePreviousYesRadioButton_, updatePreviousNoRadioButton_});
 
     auto* column = new QVBoxLayout(box);
     column->addWidget(question);
@@ -236,15 +218,6 @@ RatesForm TDlg14::form() const
     form.perDay = perDayRadioButton_->isChecked();
     form.updatePreviousRates = updatePreviousYesRadioButton_->isChecked();
     return form;
-}
-
-void TDlg14::accept()
-{
-    const FormVerdict verdict = acceptForm_(form());
-    if (verdict == FormVerdict::StayOpen)
-        return;
-    verdict_ = verdict;
-    QDialog::accept();
 }
 
 } // namespace purrlodge

@@ -2,11 +2,9 @@
 
 #include <array>
 #include <functional>
-#include <optional>
-
-#include <QDialog>
 
 #include "accounts/RatesSetup.h"
+#include "gui/FormDialog.h"
 
 class QButtonGroup;
 class QLabel;
@@ -19,7 +17,7 @@ namespace purrlodge {
 // currency and the charging unit. A thin view over RatesForm: OK hands the
 // entries to the accept function, whose verdict decides whether the dialog
 // closes or stays open as typed.
-class TDlg14 : public QDialog {
+class TDlg14 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -30,11 +28,6 @@ public:
     // The entries as they stand; the previous rates and the two statics are
     // those the dialog opened with.
     [[nodiscard]] RatesForm form() const;
-
-    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
-    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
-
-    void accept() override;
 
 private:
     QWidget* newRatesBox();
@@ -53,9 +46,6 @@ private:
     QRadioButton* perNightRadioButton_;          // 134
     QRadioButton* updatePreviousYesRadioButton_; // 122
     QRadioButton* updatePreviousNoRadioButton_;  // 123
-
-    AcceptForm acceptForm_;
-    std::optional<FormVerdict> verdict_;
 };
 
 } // namespace purrlodge

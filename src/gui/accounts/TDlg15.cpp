@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 
 namespace purrlodge {
@@ -18,7 +19,8 @@ constexpr std::size_t numberFieldWidth = 8;
 } // namespace
 
 TDlg15::TDlg15(const std::string& offer, AcceptNumber acceptNumber, QWidget* parent)
-    : QDialog(parent), acceptNumber_(std::move(acceptNumber))
+    : FormDialog([this, acceptNumber = std::move(acceptNumber)] { return acceptNumber(number()); },
+                 parent)
 {
     setObjectName(QStringLiteral("receiptNumberDialog"));
     setWindowTitle(QStringLiteral("Initial Receipt Number"));
@@ -33,17 +35,12 @@ TDlg15::TDlg15(const std::string& offer, AcceptNumber acceptNumber, QWidget* par
     explanation->setWordWrap(true);
     explanation->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
 
-    numberEdit_ = newFieldEdit(QStringLiteral("startingNumberEdit"), numberFieldWidth, this);
-    numberEdit_->setAlignment(Qt::AlignRight);
-    numberEdit_->setFixedWidth(fontMetrics().horizontalAdvance(QString(9, QLatin1Char('0'))));
+    numberEdit_ = newNumberEdit(QStringLiteral("startingNumberEdit"), numberFieldWidth, 9, this);
 
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Starting number:"), numberEdit_);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg15::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(explanation);
@@ -60,15 +57,6 @@ TDlg15::TDlg15(const std::string& offer, AcceptNumber acceptNumber, QWidget* par
 std::string TDlg15::number() const
 {
     return fieldText(*numberEdit_);
-}
-
-void TDlg15::accept()
-{
-    const FormVerdict verdict = acceptNumber_(number());
-    if (verdict == FormVerdict::StayOpen)
-        return;
-    verdict_ = verdict;
-    QDialog::accept();
 }
 
 } // namespace purrlodge

@@ -1,12 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 
-#include <QDialog>
-
-#include "accounts/EstablishmentForm.h"
+#include "gui/FormDialog.h"
 
 class QLineEdit;
 
@@ -15,7 +12,7 @@ namespace purrlodge {
 // "Initial Receipt Number" (DIALOG 15): the number the next account takes.
 // OK hands the number as typed to the accept function, whose verdict decides
 // whether the dialog closes or stays open as typed.
-class TDlg15 : public QDialog {
+class TDlg15 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -27,16 +24,8 @@ public:
     // The number as typed, 1252 bytes.
     [[nodiscard]] std::string number() const;
 
-    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
-    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
-
-    void accept() override;
-
 private:
     QLineEdit* numberEdit_; // 102
-
-    AcceptNumber acceptNumber_;
-    std::optional<FormVerdict> verdict_;
 };
 
 } // namespace purrlodge

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <optional>
-
-#include <QDialog>
 
 #include "accounts/ExchangeRateSetup.h"
+#include "gui/FormDialog.h"
 
 class QCheckBox;
 class QLineEdit;
@@ -16,7 +14,7 @@ namespace purrlodge {
 // and whether accounts show euros. A thin view over ExchangeRateForm: OK
 // hands the entries to the accept function, whose verdict decides whether the
 // dialog closes or stays open as typed.
-class TDlg23 : public QDialog {
+class TDlg23 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -27,17 +25,9 @@ public:
     // The entries as they stand.
     [[nodiscard]] ExchangeRateForm form() const;
 
-    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
-    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
-
-    void accept() override;
-
 private:
     QLineEdit* pencePerEuroEdit_;  // 101
     QCheckBox* showEurosCheckBox_; // 104
-
-    AcceptForm acceptForm_;
-    std::optional<FormVerdict> verdict_;
 };
 
 } // namespace purrlodge

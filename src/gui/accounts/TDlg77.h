@@ -1,11 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <optional>
-
-#include <QDialog>
 
 #include "accounts/StandardExtraSetup.h"
+#include "gui/FormDialog.h"
 
 class QLineEdit;
 
@@ -15,7 +13,7 @@ namespace purrlodge {
 // carry, its name and amount. A thin view over StandardExtraForm: OK hands the
 // entries to the accept function, whose verdict decides whether the dialog
 // closes or stays open as typed.
-class TDlg77 : public QDialog {
+class TDlg77 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -26,17 +24,9 @@ public:
     // The entries as they stand.
     [[nodiscard]] StandardExtraForm form() const;
 
-    // The verdict of the OK that closed the dialog; nothing when it was cancelled.
-    [[nodiscard]] std::optional<FormVerdict> verdict() const { return verdict_; }
-
-    void accept() override;
-
 private:
     QLineEdit* nameEdit_;   // 101
     QLineEdit* amountEdit_; // 102
-
-    AcceptForm acceptForm_;
-    std::optional<FormVerdict> verdict_;
 };
 
 } // namespace purrlodge

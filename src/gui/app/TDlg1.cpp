@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 
 namespace purrlodge {
@@ -30,13 +31,9 @@ TDlg1::TDlg1(const std::string& suggestion, QWidget* parent) : QDialog(parent)
     folderEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
     folderEdit_->selectAll();
 
-    auto* label = new QLabel(QStringLiteral("&Data folder:"), this);
-    label->setBuddy(folderEdit_);
+    QLabel* label = newBuddyLabel(QStringLiteral("&Data folder:"), folderEdit_, this);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(intro);

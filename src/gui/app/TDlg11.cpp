@@ -4,8 +4,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
+
+#include "gui/DialogButtons.h"
 
 namespace purrlodge {
 
@@ -20,16 +21,10 @@ TDlg11::TDlg11(QWidget* parent) : QDialog(parent)
         this);
     question->setObjectName(QStringLiteral("questionLabel"));
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons =
+        newButtonBox(this, QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Help);
     buttons->button(QDialogButtonBox::Yes)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg11::showHelp);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg11::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(question);

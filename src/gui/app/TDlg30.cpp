@@ -7,9 +7,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 #include "gui/app/TDlg31.h"
 
@@ -31,8 +31,8 @@ TDlg30::TDlg30(const std::string& current, AcceptFolder acceptFolder, QWidget* p
     folderEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
     folderEdit_->selectAll();
 
-    auto* label = new QLabel(QStringLiteral("&Folder of the data set to use from now on:"), this);
-    label->setBuddy(folderEdit_);
+    QLabel* label = newBuddyLabel(QStringLiteral("&Folder of the data set to use from now on:"),
+                                  folderEdit_, this);
 
     auto* browseButton = new QPushButton(QStringLiteral("&Browse..."), this);
     browseButton->setObjectName(QStringLiteral("browseButton"));
@@ -43,17 +43,11 @@ TDlg30::TDlg30(const std::string& current, AcceptFolder acceptFolder, QWidget* p
     folderRow->addWidget(folderEdit_, 1);
     folderRow->addWidget(browseButton);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg30::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg30::showHelp);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                                       QDialogButtonBox::Help);
     // Return always means OK, even after Help was clicked; F1 opens the help too.
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg30::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);

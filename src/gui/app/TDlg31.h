@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QDialog>
+#include "gui/HelpPage.h"
 
 namespace purrlodge {
 
-// "Change Data Source Help" (DIALOG 31): how choosing another data folder works.
-class TDlg31 : public QDialog {
+// "Change Data Source Help" (DIALOG 31): how choosing another data folder works,
+// with an OK button.
+class TDlg31 : public HelpPage {
     Q_OBJECT
 
 public:

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -24,11 +25,8 @@ TDlg32::TDlg32(const std::string& folder, QWidget* parent) : QDialog(parent)
     folderLabel->setFont(bold);
     auto* after = new QLabel(QStringLiteral("Does not exist.  Do you wish to create it ?"), this);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Yes | QDialogButtonBox::No);
     buttons->button(QDialogButtonBox::Yes)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(before);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -20,9 +21,7 @@ TDlg58::TDlg58(const std::string& folder, QWidget* parent) : QDialog(parent)
     text->setObjectName(QStringLiteral("messageLabel"));
     text->setTextFormat(Qt::PlainText);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 #include "gui/clients/TabbedListBox.h"
 
@@ -44,8 +45,7 @@ TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
     list_->fitToLines(minimumRows, width);
     list_->setMinimumSize(width / 2, fontMetrics().height() * minimumRows / 2);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     printButton_ = newButton(QStringLiteral("&Print"), QStringLiteral("printButton"), buttons);
     printButton_->setEnabled(false); // the printed listing is not made yet
@@ -55,7 +55,6 @@ TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
     specialNotesButton_ = newButton(QStringLiteral("See &Special Notes"),
                                     QStringLiteral("specialNotesButton"), buttons);
     specialNotesButton_->setEnabled(listing.specialNotesEnabled);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(otherCatsButton_, &QPushButton::clicked, this,
             [this] { openOtherCats_(this, OtherCatsMode::EarlierSpecialNotes); });
     connect(specialNotesButton_, &QPushButton::clicked, this,

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "clients/ClientFormQuestions.h"
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -27,17 +28,13 @@ TDlg16::TDlg16(const DateWarning& warning, Choice choice, QWidget* parent) : QDi
     detail->setObjectName(QStringLiteral("detailLabel"));
     detail->setTextFormat(Qt::PlainText);
 
-    auto* buttons = new QDialogButtonBox(this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    if (choice == Choice::Close) {
-        buttons->setStandardButtons(QDialogButtonBox::Close);
-    } else {
-        buttons->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QDialogButtonBox* buttons = newButtonBox(
+        this, choice == Choice::Close ? QDialogButtonBox::Close
+                                      : QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    if (choice != Choice::Close) {
         buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("C&ontinue"));
         buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     }
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(message);

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -63,11 +64,8 @@ TDlg2::TDlg2(const FinderResult& result, QWidget* parent)
         matchCount_ > 0 ? QStringLiteral("Choose the client and press OK.") : QString(), this);
     prompt->setObjectName(QStringLiteral("promptLabel"));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(rows);

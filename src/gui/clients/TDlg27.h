@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QDialog>
+#include "gui/HelpPage.h"
 
 namespace purrlodge {
 
 // "Help on New Client registration" (DIALOG 27): what the boxes of Full Client
 // Information expect, with a Close button.
-class TDlg27 : public QDialog {
+class TDlg27 : public HelpPage {
     Q_OBJECT
 
 public:

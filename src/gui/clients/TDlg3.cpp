@@ -9,12 +9,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QVBoxLayout>
 
 #include "clients/ClientFormRules.h"
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 #include "gui/clients/TDlg27.h"
 #include "store/ClientRecord.h"
@@ -55,17 +55,11 @@ QLineEdit* newShortBox(const QString& objectName, const QString& sample, QWidget
     return edit;
 }
 
-QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setBuddy(buddy);
-    return label;
-}
-
 } // namespace
 
 TDlg3::TDlg3(const ClientForm& initial, AcceptForm acceptForm, QWidget* parent)
-    : QDialog(parent), mode_(initial.mode), acceptForm_(std::move(acceptForm))
+    : FormDialog([this, acceptForm = std::move(acceptForm)] { return acceptForm(form()); }, parent),
+      mode_(initial.mode)
 {
     setObjectName(QStringLiteral("fullClientInformationDialog"));
     setWindowTitle(QStringLiteral("Full Client Information"));
@@ -83,17 +77,11 @@ TDlg3::TDlg3(const ClientForm& initial, AcceptForm acceptForm, QWidget* parent)
     upper->addWidget(buildClientBox(), 1);
     upper->addLayout(catsColumn);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TDlg3::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg3::showHelp);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                                       QDialogButtonBox::Help);
     // Return means OK from any box; F1 opens the help too.
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg3::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(upper);
@@ -358,13 +346,6 @@ void TDlg3::showNoteColour(int line)
                      red ? QColor(0xC0, 0x00, 0x00) : this->palette().color(QPalette::Text));
     edit->setPalette(palette);
     edit->setMaxLength(int(red ? redNoteFieldWidth : noteFieldWidth) - 1);
-}
-
-void TDlg3::accept()
-{
-    if (acceptForm_(form()) == FormVerdict::StayOpen)
-        return;
-    QDialog::accept();
 }
 
 void TDlg3::showHelp()

@@ -4,10 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include <QDialog>
-
-#include "accounts/EstablishmentForm.h"
 #include "clients/ClientForm.h"
+#include "gui/FormDialog.h"
 
 class QCheckBox;
 class QGroupBox;
@@ -19,7 +17,7 @@ namespace purrlodge {
 // for a new client or an existing one. A thin view over ClientForm: OK hands
 // the entries to the accept function, whose verdict decides whether the form
 // closes or stays open as typed; Help opens DIALOG 27.
-class TDlg3 : public QDialog {
+class TDlg3 : public FormDialog {
     Q_OBJECT
 
 public:
@@ -29,8 +27,6 @@ public:
 
     // The entries as they stand, in the mode the form was opened in.
     [[nodiscard]] ClientForm form() const;
-
-    void accept() override;
 
 private:
     // The seven boxes of one row of the cat grid, in column order.
@@ -77,8 +73,6 @@ private:
     std::array<QCheckBox*, 4> redNoteCheckBox_{};
     std::array<QLineEdit*, foodsPerCat> favouriteFoodEdit_{};
     std::array<QLineEdit*, foodsPerCat> forbiddenFoodEdit_{};
-
-    AcceptForm acceptForm_;
 };
 
 } // namespace purrlodge

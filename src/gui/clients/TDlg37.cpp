@@ -10,10 +10,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
+#include "gui/PackedRow.h"
+#include "gui/RadioButtons.h"
 #include "gui/clients/TDlg39.h"
 
 namespace purrlodge {
@@ -33,26 +35,22 @@ TDlg37::TDlg37(QWidget* parent) : QDialog(parent)
 
     textEdit_ = newFieldEdit(QStringLiteral("searchTextEdit"), searchTextWidth, this);
     textEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-    auto* textLabel = new QLabel(QStringLiteral("&Look for:"), this);
-    textLabel->setBuddy(textEdit_);
+    QLabel* textLabel = newBuddyLabel(QStringLiteral("&Look for:"), textEdit_, this);
     auto* textRow = new QHBoxLayout;
     textRow->addWidget(textLabel);
     textRow->addWidget(textEdit_, 1);
 
     auto* caseBox = new QGroupBox(this);
-    caseSpecificRadioButton_ = new QRadioButton(QStringLiteral("Case s&pecific"), caseBox);
-    caseSpecificRadioButton_->setObjectName(QStringLiteral("caseSpecificRadioButton"));
-    caseIndependentRadioButton_ = new QRadioButton(QStringLiteral("Case i&ndependent"), caseBox);
-    caseIndependentRadioButton_->setObjectName(QStringLiteral("caseIndependentRadioButton"));
     auto* caseGroup = new QButtonGroup(this);
-    caseGroup->addButton(caseSpecificRadioButton_);
-    caseGroup->addButton(caseIndependentRadioButton_);
+    caseSpecificRadioButton_ =
+        newRadioButton(QStringLiteral("Case s&pecific"), QStringLiteral("caseSpecificRadioButton"),
+                       caseGroup, caseBox);
+    caseIndependentRadioButton_ =
+        newRadioButton(QStringLiteral("Case i&ndependent"),
+                       QStringLiteral("caseIndependentRadioButton"), caseGroup, caseBox);
     (GlobalSearchRequest{}.caseSpecific ? caseSpecificRadioButton_ : caseIndependentRadioButton_)
         ->setChecked(true);
-    auto* caseLayout = new QHBoxLayout(caseBox);
-    caseLayout->addWidget(caseSpecificRadioButton_);
-    caseLayout->addWidget(caseIndependentRadioButton_);
-    caseLayout->addStretch(1);
+    newPackedRow({caseSpecificRadioButton_, caseIndependentRadioButton_}, caseBox);
 
     auto* groupsBox = new QGroupBox(QStringLiteral("Look in"), this);
     auto* groupsGrid = new QGridLayout(groupsBox);
@@ -94,23 +92,15 @@ TDlg37::TDlg37(QWidget* parent) : QDialog(parent)
             [this] { setGroups(GlobalSearchGroups::all()); });
     connect(untickAllButton, &QPushButton::clicked, this,
             [this] { setGroups(GlobalSearchGroups{}); });
-    auto* tickRow = new QHBoxLayout;
-    tickRow->addWidget(tickAllButton);
-    tickRow->addWidget(untickAllButton);
-    tickRow->addStretch(1);
+    QHBoxLayout* tickRow = newPackedRow({tickAllButton, untickAllButton});
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons =
+        newButtonBox(this, QDialogButtonBox::Cancel | QDialogButtonBox::Help);
     QPushButton* searchButton =
         buttons->addButton(QStringLiteral("&Search"), QDialogButtonBox::AcceptRole);
     searchButton->setObjectName(QStringLiteral("searchButton"));
     searchButton->setDefault(true);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg37::showHelp);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg37::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(textRow);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 #include "gui/clients/TabbedListBox.h"
 
@@ -36,8 +37,7 @@ TDlg38::TDlg38(const GlobalSearchResult& result, ShowDetails showDetails, QWidge
     bold.setBold(true);
     heading->setFont(bold);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     showDetailsButton_ =
         buttons->addButton(QStringLiteral("Show &Details"), QDialogButtonBox::ActionRole);
     showDetailsButton_->setObjectName(QStringLiteral("showDetailsButton"));
@@ -45,8 +45,6 @@ TDlg38::TDlg38(const GlobalSearchResult& result, ShowDetails showDetails, QWidge
     showDetailsButton_->setVisible(result.showDetails);
     showDetailsButton_->setEnabled(false);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(showDetailsButton_, &QPushButton::clicked, this, &TDlg38::showSelectedDetails);
 
     if (result.showDetails) {

@@ -6,10 +6,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
+#include "gui/RadioButtons.h"
 #include "gui/clients/TDlg7.h"
 
 namespace purrlodge {
@@ -22,30 +23,21 @@ TDlg4::TDlg4(const FinderOptions& options, QWidget* parent) : QDialog(parent)
     // The box takes as many characters as the finder searches with.
     nameEdit_ = newFieldEdit(QStringLiteral("nameEdit"), finderTextLimit + 1, this);
     nameEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
-    auto* nameLabel = new QLabel(QStringLiteral("&Name  (Case Sensitive)"), this);
-    nameLabel->setBuddy(nameEdit_);
+    QLabel* nameLabel = newBuddyLabel(QStringLiteral("&Name  (Case Sensitive)"), nameEdit_, this);
 
-    personRadioButton_ = new QRadioButton(QStringLiteral("Search for &Person"), this);
-    personRadioButton_->setObjectName(QStringLiteral("personRadioButton"));
-    catRadioButton_ = new QRadioButton(QStringLiteral("Search for &Cat"), this);
-    catRadioButton_->setObjectName(QStringLiteral("catRadioButton"));
     auto* searchGroup = new QButtonGroup(this);
-    searchGroup->addButton(personRadioButton_);
-    searchGroup->addButton(catRadioButton_);
+    personRadioButton_ = newRadioButton(QStringLiteral("Search for &Person"),
+                                        QStringLiteral("personRadioButton"), searchGroup, this);
+    catRadioButton_ = newRadioButton(QStringLiteral("Search for &Cat"),
+                                     QStringLiteral("catRadioButton"), searchGroup, this);
     personRadioButton_->setVisible(!options.catOnly);
     (options.preselected() == FinderSearch::Cat ? catRadioButton_ : personRadioButton_)
         ->setChecked(true);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                                       QDialogButtonBox::Help);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg4::showHelp);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg4::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(nameLabel);

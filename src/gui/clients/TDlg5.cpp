@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "clients/ClientFormQuestions.h"
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
@@ -20,14 +21,11 @@ TDlg5::TDlg5(QWidget* parent) : QDialog(parent)
     auto* second = new QLabel(fromWindows1252(surnameAlertLine2), this);
     second->setObjectName(QStringLiteral("questionLabel"));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Yes | QDialogButtonBox::No);
     buttons->button(QDialogButtonBox::Yes)->setText(QStringLiteral("&YES"));
     buttons->button(QDialogButtonBox::No)->setText(QStringLiteral("&No"));
     // The change is saved at once, so a stray Return keeps the old surname.
     buttons->button(QDialogButtonBox::No)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(first);

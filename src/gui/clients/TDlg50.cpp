@@ -8,26 +8,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
+#include "gui/RadioButtons.h"
 #include "gui/Text1252.h"
 
 namespace purrlodge {
-
-namespace {
-
-QRadioButton* newReason(const QString& text, const QString& objectName, QButtonGroup* group,
-                        QWidget* parent)
-{
-    auto* button = new QRadioButton(text, parent);
-    button->setObjectName(objectName);
-    group->addButton(button);
-    return button;
-}
-
-} // namespace
 
 TDlg50::TDlg50(const std::string& catName, QWidget* parent) : QDialog(parent)
 {
@@ -46,14 +34,14 @@ TDlg50::TDlg50(const std::string& catName, QWidget* parent) : QDialog(parent)
     reasonBox->setObjectName(QStringLiteral("reasonGroupBox"));
     // No reason is chosen until the person picks one: none counts as unknown.
     auto* reasons = new QButtonGroup(this);
-    lostRadioButton_ =
-        newReason(QStringLiteral("&Lost"), QStringLiteral("lostRadioButton"), reasons, reasonBox);
-    deathRadioButton_ =
-        newReason(QStringLiteral("&Death"), QStringLiteral("deathRadioButton"), reasons, reasonBox);
-    newHomeRadioButton_ = newReason(QStringLiteral("New &Home"),
-                                    QStringLiteral("newHomeRadioButton"), reasons, reasonBox);
-    otherRadioButton_ =
-        newReason(QStringLiteral("&Other"), QStringLiteral("otherRadioButton"), reasons, reasonBox);
+    lostRadioButton_ = newRadioButton(QStringLiteral("&Lost"), QStringLiteral("lostRadioButton"),
+                                      reasons, reasonBox);
+    deathRadioButton_ = newRadioButton(QStringLiteral("&Death"), QStringLiteral("deathRadioButton"),
+                                       reasons, reasonBox);
+    newHomeRadioButton_ = newRadioButton(QStringLiteral("New &Home"),
+                                         QStringLiteral("newHomeRadioButton"), reasons, reasonBox);
+    otherRadioButton_ = newRadioButton(QStringLiteral("&Other"), QStringLiteral("otherRadioButton"),
+                                       reasons, reasonBox);
     auto* reasonLayout = new QVBoxLayout(reasonBox);
     reasonLayout->addWidget(lostRadioButton_);
     reasonLayout->addWidget(deathRadioButton_);
@@ -62,19 +50,12 @@ TDlg50::TDlg50(const std::string& catName, QWidget* parent) : QDialog(parent)
 
     notesEdit_ = newFieldEdit(QStringLiteral("notesEdit"), leavingCatNotesLength + 1, this);
     notesEdit_->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-    auto* notesLabel = new QLabel(QStringLiteral("&Notes"), this);
-    notesLabel->setBuddy(notesEdit_);
+    QLabel* notesLabel = newBuddyLabel(QStringLiteral("&Notes"), notesEdit_, this);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                                       QDialogButtonBox::Help);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Help)->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &TDlg50::showHelp);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &TDlg50::showHelp);
+    connectHelp(this, buttons, [this] { showHelp(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(caption);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
 #include "gui/clients/TabbedListBox.h"
 
@@ -34,9 +35,7 @@ TDlg52::TDlg52(const OtherCatsListing& listing, QWidget* parent) : QDialog(paren
     list_->fitToLines(listRows, fontMetrics().averageCharWidth() * 80);
     list_->setMinimumSize(fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 6);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Close);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(headingLabel_);

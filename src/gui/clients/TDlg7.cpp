@@ -1,9 +1,5 @@
 #include "gui/clients/TDlg7.h"
 
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QVBoxLayout>
-
 #include "clients/ClientFinder.h"
 #include "gui/Text1252.h"
 
@@ -11,34 +7,18 @@ namespace purrlodge {
 
 namespace {
 
-QLabel* newParagraph(std::string_view text, const QString& objectName, QWidget* parent)
+// The person's paragraph, then the cat's.
+QString helpText()
 {
-    auto* label = new QLabel(fromWindows1252(text), parent);
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
+    const FinderHelpTexts texts = finderHelpTexts();
+    return fromWindows1252(texts.person) + QStringLiteral("\n\n") + fromWindows1252(texts.cat);
 }
 
 } // namespace
 
-TDlg7::TDlg7(QWidget* parent) : QDialog(parent)
-{
-    setObjectName(QStringLiteral("clientSearchHelpDialog"));
-    setWindowTitle(QStringLiteral("Client Search Help"));
-
-    const FinderHelpTexts texts = finderHelpTexts();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(newParagraph(texts.person, QStringLiteral("personHelpLabel"), this));
-    layout->addSpacing(8);
-    layout->addWidget(newParagraph(texts.cat, QStringLiteral("catHelpLabel"), this));
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
-}
+TDlg7::TDlg7(QWidget* parent)
+    : HelpPage(QStringLiteral("clientSearchHelpDialog"), QStringLiteral("Client Search Help"),
+               helpText(), 56, parent)
+{}
 
 } // namespace purrlodge

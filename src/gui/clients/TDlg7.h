@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QDialog>
+#include "gui/HelpPage.h"
 
 namespace purrlodge {
 
 // "Client Search Help" (DIALOG 7): how to type a name into the client finder,
 // for a person and for a cat, with a Close button.
-class TDlg7 : public QDialog {
+class TDlg7 : public HelpPage {
     Q_OBJECT
 
 public:
