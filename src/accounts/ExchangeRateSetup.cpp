@@ -1,6 +1,5 @@
 #include "accounts/ExchangeRateSetup.h"
 
-#include <cstdio>
 #include <string_view>
 
 #include "accounts/CatteryFiles.h"
@@ -23,9 +22,8 @@ bool euroExchangeRateEnabled(const RatesRecord& rates)
 
 ExchangeRateForm exchangeRateFormFrom(const ExchangeRateRecord& exchangeRate)
 {
-    char text[64];
-    std::snprintf(text, sizeof text, "%.02f", static_cast<double>(exchangeRate.pencePerEuro.get()));
-    return {text, exchangeRate.showEuros.get() != 0};
+    return {formatted("%.02f", static_cast<double>(exchangeRate.pencePerEuro.get())),
+            exchangeRate.showEuros.get() != 0};
 }
 
 FormVerdict acceptExchangeRateForm(Session& session, const ExchangeRateForm& form)

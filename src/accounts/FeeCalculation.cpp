@@ -3,7 +3,6 @@
 #include <cfloat>
 #include <climits>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 #include "accounts/StandardExtra.h"
@@ -39,10 +38,7 @@ std::int32_t truncated(float value)
 std::string rateChangeDateText(std::int64_t changeTime, const Clock& clock)
 {
     const CivilTime local = clock.toLocal(changeTime);
-    char text[48];
-    std::snprintf(text, sizeof text, "%02d/%02d/%02d", local.day, local.month,
-                  local.year - 1900 - 100);
-    return text;
+    return formatted("%02d/%02d/%02d", local.day, local.month, local.year - 1900 - 100);
 }
 
 int countCats(const FeeEntries& entries)
@@ -151,18 +147,6 @@ void fillAdjustments(const FeeEntries& entries, const RatesRecord& rates,
                              : toStoredFloat(static_cast<long double>(account.finalBalance.get()) *
                                              100 / pencePerEuro));
     account.pencePerEuroWhole.set(truncated(pencePerEuro));
-}
-
-// printf-style text of any length (the "C" numeric locale is the program's).
-std::string formatted(const char* format, auto... values)
-{
-    const int length = std::snprintf(nullptr, 0, format, values...);
-    if (length <= 0)
-        return {};
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    std::snprintf(text.data(), text.size(), format, values...);
-    text.pop_back();
-    return text;
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "accounts/RatesSetup.h"
 
-#include <cstdio>
-
 #include "accounts/CatteryFiles.h"
 #include "accounts/FeeCalculation.h"
 #include "app/Clock.h"
@@ -18,19 +16,15 @@ constexpr std::uint32_t currencyButtons = 4;
 
 std::string rateText(float rate)
 {
-    char text[64];
-    std::snprintf(text, sizeof text, "%.2f", static_cast<double>(rate));
-    return text;
+    return formatted("%.2f", static_cast<double>(rate));
 }
 
 // "<prefix>%d:%d<middle>%d %s, %d": hour and minute unpadded, the day, the
 // month's full name and the four-digit year.
 std::string momentText(const char* format, const CivilTime& at)
 {
-    char text[128];
-    std::snprintf(text, sizeof text, format, at.hour, at.minute, at.day,
-                  std::string(monthName(at.month)).c_str(), at.year);
-    return text;
+    return formatted(format, at.hour, at.minute, at.day, std::string(monthName(at.month)).c_str(),
+                     at.year);
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "accounts/StandardExtra.h"
 
-#include <cstdio>
-
 #include "accounts/FeeCalculation.h"
+#include "store/TextHelpers.h"
 
 namespace purrlodge {
 
@@ -21,17 +20,15 @@ StandardExtraControls openingStandardExtra(const RatesRecord& rates)
 {
     StandardExtraControls controls;
     const unsigned char sign = currencySign(rates.currency.get());
-    char amount[64];
     if (rates.standardExtraName.isEmpty()) {
-        std::snprintf(amount, sizeof amount, "%c0.00", sign);
+        controls.amountText = formatted("%c0.00", sign);
     } else {
         controls.buttonsVisible = true;
         controls.nameAndAmountVisible = true;
         controls.nameText = rates.standardExtraName.str();
-        std::snprintf(amount, sizeof amount, "%c%.2f", sign,
-                      static_cast<double>(rates.standardExtraCharge.get()));
+        controls.amountText =
+            formatted("%c%.2f", sign, static_cast<double>(rates.standardExtraCharge.get()));
     }
-    controls.amountText = amount;
     return controls;
 }
 

@@ -1,6 +1,5 @@
 #include "accounts/StandardExtraSetup.h"
 
-#include <cstdio>
 #include <string_view>
 
 #include "accounts/CatteryFiles.h"
@@ -18,10 +17,8 @@ constexpr std::size_t editLength = 23;
 
 StandardExtraForm standardExtraFormFrom(const RatesRecord& rates)
 {
-    char amount[64];
-    std::snprintf(amount, sizeof amount, "%.2f",
-                  static_cast<double>(rates.standardExtraCharge.get()));
-    return {rates.standardExtraName.str(), amount};
+    return {rates.standardExtraName.str(),
+            formatted("%.2f", static_cast<double>(rates.standardExtraCharge.get()))};
 }
 
 FormVerdict acceptStandardExtraForm(Session& session, const StandardExtraForm& form)

@@ -1,11 +1,11 @@
 #include "app/BackupAlert.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
 #include "app/Clock.h"
 #include "app/Profile.h"
+#include "store/TextHelpers.h"
 
 namespace purrlodge {
 
@@ -24,11 +24,10 @@ std::optional<Message> backupAlertFor(std::int64_t lastBackup, bool reminderOn, 
                        MessageIcon::Exclamation};
 
     const CivilTime at = clock.toLocal(lastBackup);
-    char text[128];
-    std::snprintf(text, sizeof text,
-                  "You have not backed up your Purrlodge Data since\n %02d:%02d on %02d/%02d/%02d",
-                  at.hour, at.minute, at.day, at.month, at.year % 100);
-    return Message{text, "Backup Alert", MessageIcon::Exclamation};
+    return Message{
+        formatted("You have not backed up your Purrlodge Data since\n %02d:%02d on %02d/%02d/%02d",
+                  at.hour, at.minute, at.day, at.month, at.year % 100),
+        "Backup Alert", MessageIcon::Exclamation};
 }
 
 bool runBackupAlert(Ui& ui, Profile& profile, const Clock& clock)

@@ -1,7 +1,5 @@
 #include "clients/ClientDetails.h"
 
-#include <cstdio>
-
 #include "app/Clock.h"
 #include "store/CatSlots.h"
 #include "store/ClientFiles.h"
@@ -14,14 +12,6 @@ namespace purrlodge {
 namespace {
 
 constexpr std::int64_t secondsPerYear = 31536000; // 365 days
-
-// As "%02d" writes a number: at least two figures.
-std::string twoFigures(int value)
-{
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d", value);
-    return text;
-}
 
 // A listing's cat line ends in ", " when a later slot still holds a cat, so a
 // record with a gap between its cats still reads as one list.
@@ -38,21 +28,30 @@ bool laterCatFollows(const ClientRecord& client, int slot)
 std::string lastVaccinationText(std::int32_t serial, const Clock& clock)
 {
     const CivilTime date = clock.toLocal(serial);
-    return twoFigures(date.month) + '/' + twoFigures(date.year % 100);
+    return formatted("%02d/%02d", date.month, date.year % 100);
 }
 
-std::string currentCatLine(const ClientRecord& client, int slot, int currentYear,
-                           const Clock& clock)
+// "name\t[sex]\tAge=n\t", the start both listings share; they differ only in
+// how an unknown year of birth shows.
+std::string catLineStart(const ClientRecord& client, int slot, int currentYear,
+                         std::string_view unknownAge)
 {
     const std::int32_t birthYear = client.catBirthYear[slot].get();
     std::string line = client.catName[slot].str();
     line += "\t[";
     line += sexLetter(client.catSex[slot].get());
     line += "]\t";
-    // An unknown year of birth shows the characters "%Age= ??" exactly so.
     line += birthYear != 0 ? "Age=" + std::to_string(yearsSince(birthYear, currentYear))
-                           : std::string("%Age= ??");
+                           : std::string(unknownAge);
     line += '\t';
+    return line;
+}
+
+std::string currentCatLine(const ClientRecord& client, int slot, int currentYear,
+                           const Clock& clock)
+{
+    // An unknown year of birth shows the characters "%Age= ??" exactly so.
+    std::string line = catLineStart(client, slot, currentYear, "%Age= ??");
     line += client.catColour[slot].str();
     line += ' ';
     line += client.catBreed[slot].str();
@@ -67,14 +66,7 @@ std::string currentCatLine(const ClientRecord& client, int slot, int currentYear
 
 std::string pastCatLine(const ClientRecord& client, int slot, int currentYear, const Clock& clock)
 {
-    const std::int32_t birthYear = client.catBirthYear[slot].get();
-    std::string line = client.catName[slot].str();
-    line += "\t[";
-    line += sexLetter(client.catSex[slot].get());
-    line += "]\t";
-    line += birthYear != 0 ? "Age=" + std::to_string(yearsSince(birthYear, currentYear))
-                           : std::string("Age= ??");
-    line += '\t';
+    std::string line = catLineStart(client, slot, currentYear, "Age= ??");
     line += client.catColour[slot].str();
     line +=
         "\t(Last Vac: " + lastVaccinationText(client.catLastVaccination[slot].get(), clock) + ')';
@@ -105,8 +97,8 @@ std::string firstRegisteredLine(const ClientRecord& client, bool twoFigureYear, 
         return "First Registered:  Not Recorded  (Known rating - " + known + ')';
     const CivilTime date = clock.toLocal(registered);
     const int year = twoFigureYear ? date.year % 100 : date.year;
-    return "First Registered: " + twoFigures(date.day) + '/' + twoFigures(date.month) + '/' +
-           twoFigures(year) + "    (Known rating = " + known + ')';
+    return "First Registered: " + formatted("%02d/%02d/%02d", date.day, date.month, year) +
+           "    (Known rating = " + known + ')';
 }
 
 enum class Variant { Current, Past };

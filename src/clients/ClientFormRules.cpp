@@ -32,13 +32,6 @@ bool contains(std::string_view text, std::string_view part)
     return text.find(part) != std::string_view::npos;
 }
 
-// "%02d" of a number that is never negative here.
-std::string twoDigits(int value)
-{
-    std::string text = std::to_string(value);
-    return text.size() < 2 ? "0" + text : text;
-}
-
 // The text after the red marker: after "#R# " as the program writes it, or
 // after a bare "#R#" typed by hand.
 std::string withoutRedMarker(std::string_view text)
@@ -75,7 +68,7 @@ std::string lastVaccinationText(std::int32_t serial)
     if (serial <= 0)
         return {};
     const CivilTime date = civilFromSeconds(serial);
-    return twoDigits(date.month) + "/" + twoDigits(date.year % 100);
+    return formatted("%02d/%02d", date.month, date.year % 100);
 }
 
 // 2 for "x+", 1 for "x-", 0 when neither is given.

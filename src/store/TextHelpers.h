@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -47,6 +48,20 @@ inline constexpr std::string_view lettersAndDigits =
 [[nodiscard]] int firstNotInSet(std::string_view text, std::string_view set);
 // Whether every character of the text is in the set (true for an empty text).
 [[nodiscard]] bool onlyCharactersOf(std::string_view text, std::string_view set);
+
+// printf-style text of any length, for the program's own fixed formats only:
+// record or typed text is passed as a value, never as the format. Numbers
+// come out in the "C" locale, which the program keeps for LC_NUMERIC.
+template <class... Values> [[nodiscard]] std::string formatted(const char* format, Values... values)
+{
+    const int length = std::snprintf(nullptr, 0, format, values...);
+    if (length <= 0)
+        return {};
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    std::snprintf(text.data(), text.size(), format, values...);
+    text.pop_back();
+    return text;
+}
 
 // The leading integer of a text as the C library's atoi reads it (blanks, an
 // optional sign, digits); 0 when there is none.
