@@ -17,16 +17,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t maxTypedFolderLength = 80;
-constexpr char nativeSeparator = static_cast<char>(fs::path::preferred_separator);
 constexpr std::string_view setDefaultDirectoryTitle = "Set Default Directory";
 
 // The index name as the dialogs look for it; the look-up ignores case.
 constexpr std::string_view indexProbeName = "fidex.CTL";
-
-bool isSeparator(char c)
-{
-    return c == '/' || c == nativeSeparator;
-}
 
 // Writes CurrentDir and tells the person to restart.
 void registerDataFolder(Ports& ports, const std::string& folder)
@@ -125,10 +119,9 @@ std::string windowCaption(const std::string& currentDir)
 
 std::string dataFolderFromTyped(std::string_view typed)
 {
-    std::string folder(typed.substr(0, maxTypedFolderLength));
-    if (folder.empty() || !isSeparator(folder.back()))
-        folder += nativeSeparator;
-    return folder;
+    // An empty entry becomes the bare separator, as it always has.
+    const std::string folder(typed.substr(0, maxTypedFolderLength));
+    return folder.empty() ? std::string(1, folderSeparator) : withTrailingSeparator(folder);
 }
 
 bool holdsClientIndex(Ui& ui, const std::string& folder)
@@ -175,7 +168,7 @@ std::optional<int> acceptChangeDataSource(Ports& ports, const std::string& typed
 int makeFolderChain(const std::string& folder)
 {
     std::string trimmed = folder;
-    while (trimmed.size() > 1 && isSeparator(trimmed.back()))
+    while (trimmed.size() > 1 && isFolderSeparator(trimmed.back()))
         trimmed.pop_back();
     if (trimmed.empty())
         return 0;

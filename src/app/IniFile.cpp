@@ -1,14 +1,12 @@
 #include "app/IniFile.h"
 
 #include <cerrno>
-#include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
+#include "store/SafeFile.h"
+#include "store/TextHelpers.h"
 
 namespace purrlodge {
 
@@ -71,65 +69,7 @@ bool isBlank(std::string_view content)
     return trimmed(content).empty();
 }
 
-std::string reasonOf(int error)
-{
-    return std::generic_category().message(error);
-}
-
-std::FILE* openFile(const fs::path& file, bool forWriting)
-{
-#ifdef _WIN32
-    std::FILE* stream = nullptr;
-    _wfopen_s(&stream, file.c_str(), forWriting ? L"wb" : L"rb");
-    return stream;
-#else
-    return std::fopen(file.c_str(), forWriting ? "wb" : "rb");
-#endif
-}
-
-// Writes the bytes and makes sure they reached the disk before the caller
-// renames the file into place; otherwise a crash could leave an empty file.
-bool writeToDisk(const fs::path& file, const std::string& bytes, std::string& reason)
-{
-    std::FILE* stream = openFile(file, true);
-    if (stream == nullptr) {
-        reason = reasonOf(errno);
-        return false;
-    }
-    bool written = std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size() &&
-                   std::fflush(stream) == 0;
-#ifdef _WIN32
-    written = written && _commit(_fileno(stream)) == 0;
-#else
-    written = written && fsync(fileno(stream)) == 0;
-#endif
-    int error = written ? 0 : errno;
-    if (std::fclose(stream) != 0 && written) {
-        written = false;
-        error = errno;
-    }
-    if (!written)
-        reason = reasonOf(error != 0 ? error : EIO);
-    return written;
-}
-
-char asciiLower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 } // namespace
-
-bool equalIgnoringAsciiCase(std::string_view a, std::string_view b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (asciiLower(a[i]) != asciiLower(b[i]))
-            return false;
-    }
-    return true;
-}
 
 IniFile IniFile::parse(std::string_view text)
 {
@@ -154,24 +94,19 @@ IniFile IniFile::parse(std::string_view text)
 
 std::optional<IniFile> IniFile::load(const fs::path& file, std::string& reason)
 {
-    std::FILE* stream = openFile(file, false);
-    if (stream == nullptr) {
-        const int error = errno;
-        if (error == ENOENT)
-            return IniFile{};
-        reason = reasonOf(error);
+    std::error_code missing;
+    if (!fs::exists(file, missing) && !missing)
+        return IniFile{};
+    if (fs::is_directory(file, missing)) {
+        reason = std::make_error_code(std::errc::is_a_directory).message();
         return std::nullopt;
     }
+    std::ifstream stream(file, std::ios::binary);
     std::string bytes;
-    char buffer[4096];
-    std::size_t count = 0;
-    while ((count = std::fread(buffer, 1, sizeof buffer, stream)) > 0)
-        bytes.append(buffer, count);
-    const bool failed = std::ferror(stream) != 0;
-    const int error = errno;
-    std::fclose(stream);
-    if (failed) {
-        reason = reasonOf(error != 0 ? error : EIO);
+    if (stream)
+        bytes.assign(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    if (!stream && !stream.eof()) {
+        reason = std::generic_category().message(errno != 0 ? errno : EIO);
         return std::nullopt;
     }
     return parse(bytes);
@@ -189,8 +124,7 @@ std::optional<std::size_t> IniFile::findSection(std::string_view section) const
 {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const LineMeaning meaning = meaningOf(lines_[i].content);
-        if (meaning.kind == LineMeaning::Kind::Section &&
-            equalIgnoringAsciiCase(meaning.name, section))
+        if (meaning.kind == LineMeaning::Kind::Section && equalsIgnoringCase(meaning.name, section))
             return i;
     }
     return std::nullopt;
@@ -213,7 +147,7 @@ std::optional<std::string> IniFile::value(std::string_view section, std::string_
     for (std::size_t i = *header + 1; i < end; ++i) {
         const std::string& content = lines_[i].content;
         const LineMeaning meaning = meaningOf(content);
-        if (meaning.kind == LineMeaning::Kind::Key && equalIgnoringAsciiCase(meaning.name, key))
+        if (meaning.kind == LineMeaning::Kind::Key && equalsIgnoringCase(meaning.name, key))
             return content.substr(meaning.valueBegin, meaning.valueEnd - meaning.valueBegin);
     }
     return std::nullopt;
@@ -246,7 +180,7 @@ void IniFile::setValue(std::string_view section, std::string_view key, std::stri
     for (std::size_t i = *header + 1; i < end; ++i) {
         std::string& content = lines_[i].content;
         const LineMeaning meaning = meaningOf(content);
-        if (meaning.kind == LineMeaning::Kind::Key && equalIgnoringAsciiCase(meaning.name, key)) {
+        if (meaning.kind == LineMeaning::Kind::Key && equalsIgnoringCase(meaning.name, key)) {
             content.replace(meaning.valueBegin, meaning.valueEnd - meaning.valueBegin, value);
             return;
         }
@@ -260,41 +194,16 @@ void IniFile::setValue(std::string_view section, std::string_view key, std::stri
 
 bool IniFile::save(const fs::path& file, std::string& reason) const
 {
-    std::error_code error;
-    // Write through a symbolic link rather than replace the link with a file.
-    fs::path target = file;
-    if (fs::is_symlink(file, error)) {
-        const fs::path resolved = fs::weakly_canonical(file, error);
-        if (!error)
-            target = resolved;
-    }
-
-    const fs::path folder = target.parent_path();
+    const fs::path folder = file.parent_path();
     if (!folder.empty()) {
+        std::error_code error;
         fs::create_directories(folder, error);
         if (error) {
             reason = error.message();
             return false;
         }
     }
-
-    fs::path temporary = target;
-    temporary += ".tmp";
-    std::error_code ignored;
-    if (!writeToDisk(temporary, text(), reason)) {
-        fs::remove(temporary, ignored);
-        return false;
-    }
-    const fs::file_status old = fs::status(target, ignored);
-    if (fs::exists(old))
-        fs::permissions(temporary, old.permissions(), ignored);
-    fs::rename(temporary, target, error);
-    if (error) {
-        reason = error.message();
-        fs::remove(temporary, ignored);
-        return false;
-    }
-    return true;
+    return replaceFileContents(file, text(), reason);
 }
 
 } // namespace purrlodge

@@ -8,10 +8,6 @@
 
 namespace purrlodge {
 
-// Compares names as the profile functions do: ASCII letters without regard to
-// case, every other byte of 1252 as it is.
-[[nodiscard]] bool equalIgnoringAsciiCase(std::string_view a, std::string_view b);
-
 // A settings file in the INI layout, held as its lines so that a change
 // touches only the line it must: every other line, comment, blank line and the
 // order stay byte for byte, and each line keeps its own ending (CRLF or LF).

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/IniFile.h"
+#include "store/TextHelpers.h"
 
 namespace purrlodge {
 
@@ -27,9 +28,8 @@ std::string IniProfile::read(std::string_view key) const
     if (!ini)
         return {};
     std::string value = ini->value(section_, key).value_or(std::string());
-    value.resize(std::min(value.size(), equalIgnoringAsciiCase(key, "CurrentDrive")
-                                            ? driveValueLength
-                                            : valueLength));
+    value.resize(std::min(value.size(), equalsIgnoringCase(key, "CurrentDrive") ? driveValueLength
+                                                                                : valueLength));
     return value;
 }
 

@@ -6,23 +6,11 @@
 #include <utility>
 
 #include "app/Profile.h"
+#include "store/DataFolder.h"
 #include "store/TextHelpers.h"
 #include "store/Windows1252.h"
 
 namespace purrlodge {
-
-namespace {
-
-constexpr char nativeSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
-
-std::string withSeparator(std::string folder)
-{
-    if (folder.back() != '/' && folder.back() != nativeSeparator)
-        folder += nativeSeparator;
-    return folder;
-}
-
-} // namespace
 
 ProfileDrives::ProfileDrives(const Profile& profile, std::string homeFolder)
     : profile_(profile), homeFolder_(std::move(homeFolder))
@@ -38,9 +26,9 @@ std::optional<std::string> ProfileDrives::rootOf(char letter) const
 #else
     const std::string setting = profile_.read(std::string("Drive") + drive);
     if (!setting.empty())
-        return withSeparator(setting);
+        return withTrailingSeparator(setting);
     if (drive == 'C' && !homeFolder_.empty())
-        return withSeparator(homeFolder_);
+        return withTrailingSeparator(homeFolder_);
     return std::nullopt;
 #endif
 }

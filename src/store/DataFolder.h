@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -8,6 +9,13 @@
 namespace purrlodge {
 
 class Ui;
+
+// Folder names end in this platform's separator; '/' is taken as one too.
+inline constexpr char folderSeparator =
+    static_cast<char>(std::filesystem::path::preferred_separator);
+[[nodiscard]] bool isFolderSeparator(char c);
+// The folder name with a separator at its end (an empty name stays empty).
+[[nodiscard]] std::string withTrailingSeparator(std::string folder);
 
 // The one folder that holds a data set. Every file name is the folder (which
 // ends in the separator) followed directly by the file's own name. Blocks are

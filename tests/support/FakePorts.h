@@ -11,6 +11,7 @@
 
 #include "app/Ports.h"
 #include "store/CivilCalendar.h"
+#include "store/TextHelpers.h"
 
 namespace purrlodge::testing {
 
@@ -127,21 +128,13 @@ class FakeProfile : public Profile {
 public:
     [[nodiscard]] std::string read(std::string_view key) const override
     {
-        const auto found = values.find(lower(key));
+        const auto found = values.find(toLower(key));
         return found == values.end() ? std::string() : found->second;
     }
     void write(std::string_view key, std::string_view value) override
     {
-        values[lower(key)] = std::string(value);
+        values[toLower(key)] = std::string(value);
         writes.emplace_back(std::string(key), std::string(value));
-    }
-
-    static std::string lower(std::string_view key)
-    {
-        std::string result(key);
-        std::transform(result.begin(), result.end(), result.begin(),
-                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-        return result;
     }
 
     std::map<std::string, std::string> values;
