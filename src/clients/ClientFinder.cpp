@@ -1,6 +1,7 @@
 #include "clients/ClientFinder.h"
 
 #include "app/CommandIds.h"
+#include "app/Session.h"
 #include "store/CatSlots.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
@@ -134,6 +135,12 @@ FinderHelpTexts finderHelpTexts()
             "Search for Cat: type any part of the cat's name (upper and lower case count). "
             "\"ig\" finds Tigger and Pig. At most 12 matches are offered: type more of the "
             "name to narrow the search."};
+}
+
+void chooseClient(Session& session, const FinderMatch& match)
+{
+    readClientRecord(session.folder, match.code, session.client);
+    readStayRecord(session.folder, match.code, session.stay);
 }
 
 } // namespace purrlodge

@@ -13,6 +13,7 @@
 namespace purrlodge {
 
 class DataFolder;
+class Session;
 
 // The client finder: DIALOG 4 "Client Index" takes a name, the index or every
 // client record is searched, and DIALOG 2 "Matching Clients" offers the
@@ -91,6 +92,10 @@ struct FinderResult {
 // the text. Each record is read at most once.
 [[nodiscard]] FinderResult findClients(const DataFolder& folder, const ClientIndex& index,
                                        FinderSearch search, std::string_view text);
+
+// Makes the chosen client the current one: its client and stay records are
+// read into the session.
+void chooseClient(Session& session, const FinderMatch& match);
 
 // "(Tom, Kitty)": the cat names up to the first empty slot, or "(No cat now)"
 // when the first slot is empty.

@@ -3,7 +3,6 @@
 #include "app/Session.h"
 #include "gui/clients/TDlg2.h"
 #include "gui/clients/TDlg4.h"
-#include "store/ClientFiles.h"
 
 namespace purrlodge {
 
@@ -37,8 +36,7 @@ std::optional<FinderMatch> findClient(QWidget* parent, Session& session, int com
         if (!chosen)
             return std::nullopt;
         const FinderMatch& match = result.matches[static_cast<std::size_t>(*chosen)];
-        readClientRecord(session.folder, match.code, session.client);
-        readStayRecord(session.folder, match.code, session.stay);
+        chooseClient(session, match);
         return match;
     }
 }
