@@ -17,7 +17,7 @@ constexpr std::size_t rateEditLength = 11;
 
 bool euroExchangeRateEnabled(const RatesRecord& rates)
 {
-    return rates.currency.get() == static_cast<std::uint32_t>(Currency::Sterling);
+    return rates.inSterling();
 }
 
 ExchangeRateForm exchangeRateFormFrom(const ExchangeRateRecord& exchangeRate)

@@ -138,7 +138,7 @@ void fillAdjustments(const FeeEntries& entries, const RatesRecord& rates,
         account.finalBalance.set(
             toStoredFloat(static_cast<long double>(standardExtra) + account.finalBalance.get()));
 
-    if (rates.currency.get() != static_cast<std::uint32_t>(Currency::Sterling))
+    if (!rates.inSterling())
         return; // other currencies keep whatever the account held
     const float pencePerEuro = exchangeRate.pencePerEuro.get();
     // No euro rate set: the equivalent stays 0 rather than an infinity.

@@ -26,6 +26,12 @@ struct RatesRecord {
     Int32LE rateChangeTime;           // 344 (seconds since 1970)
     Uint32LE reserved4;               // 348
     FixedText<121> accountNote;       // 352
+
+    // Euros and the exchange rate come into play only for Sterling.
+    [[nodiscard]] bool inSterling() const
+    {
+        return currency.get() == static_cast<std::uint32_t>(Currency::Sterling);
+    }
 };
 
 static_assert(sizeof(RatesRecord) == 473 && alignof(RatesRecord) == 1);

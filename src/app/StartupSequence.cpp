@@ -117,8 +117,7 @@ void checkRatesAndEuroRate(Session& session)
         session.ports.ui.showMessage(
             {std::string(noRatesText), "No Rates Set", MessageIcon::Exclamation});
 
-    if (session.rates.currency.get() == static_cast<std::uint32_t>(Currency::Sterling) &&
-        !loadExchangeRate(session.folder, session.exchangeRate))
+    if (session.rates.inSterling() && !loadExchangeRate(session.folder, session.exchangeRate))
         session.ports.ui.showMessage({"Please Set the Euro-Exchange Rate", "Euros not Set!"});
 }
 

@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include "accounts/EstablishmentDetails.h"
+#include "accounts/ExchangeRateSetup.h"
 #include "app/CommandIds.h"
 #include "app/DataFolderSetup.h"
 #include "app/Session.h"
@@ -144,9 +145,7 @@ void TMyWindow::buildCommandTable()
     setChecker(remindMe, [this] { return session_.shell.backupReminder; });
 
     // Euros come into play only when the rates are in Sterling.
-    setEnabler(euroExchangeRate, [this] {
-        return session_.rates.currency.get() == static_cast<std::uint32_t>(Currency::Sterling);
-    });
+    setEnabler(euroExchangeRate, [this] { return euroExchangeRateEnabled(session_.rates); });
     setEnabler(seePictureNotes, [this] {
         const int picture = session_.shell.pictureIndex;
         return picture >= 0 && picture < pictureCount &&
