@@ -49,12 +49,11 @@ struct TabbedLine {
     QTextLine line;
 };
 
-// Draws an item's background as the style does, then its text with the stops.
+// Draws an item's background as the style does, then its text with the
+// list's stops.
 class TabbedLineDelegate : public QStyledItemDelegate {
 public:
-    TabbedLineDelegate(std::vector<int> tabStops, QObject* parent)
-        : QStyledItemDelegate(parent), tabStops_(std::move(tabStops))
-    {}
+    explicit TabbedLineDelegate(TabbedListBox* list) : QStyledItemDelegate(list), list_(list) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override
@@ -67,8 +66,7 @@ public:
         const QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
         style->drawControl(QStyle::CE_ItemViewItem, &item, painter, widget);
 
-        const TabbedLine tabbed(text, item.font,
-                                tabbedTextOption(tabStops_, QFontMetricsF(item.font)));
+        const TabbedLine tabbed(text, item.font, list_->textOption());
         const QPalette::ColorGroup group =
             (item.state & QStyle::State_Enabled) ? QPalette::Normal : QPalette::Disabled;
         const QPalette::ColorRole role =
@@ -83,19 +81,17 @@ public:
         painter->restore();
     }
 
+    // Every row is one line in the list's font, so every row is given the
+    // size of the widest: the list takes all rows to be that size, and scrolls
+    // across to the end of any line, without measuring each.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        QStyleOptionViewItem item = option;
-        initStyleOption(&item, index);
-        const TabbedLine tabbed(item.text, item.font,
-                                tabbedTextOption(tabStops_, QFontMetricsF(item.font)));
-        const int margin = itemTextMargin(item.widget);
         const int height = QStyledItemDelegate::sizeHint(option, index).height();
-        return {static_cast<int>(std::ceil(tabbed.line.naturalTextWidth())) + 2 * margin, height};
+        return {list_->widestLine() + 2 * itemTextMargin(option.widget), height};
     }
 
 private:
-    std::vector<int> tabStops_;
+    const TabbedListBox* list_;
 };
 
 } // namespace
@@ -123,7 +119,13 @@ QTextOption tabbedTextOption(std::span<const int> tabStops, const QFontMetricsF&
 TabbedListBox::TabbedListBox(std::span<const int> tabStops, QWidget* parent)
     : QListWidget(parent), tabStops_(tabStops.begin(), tabStops.end())
 {
-    setItemDelegate(new TabbedLineDelegate(tabStops_, this));
+    setItemDelegate(new TabbedLineDelegate(this));
+    setUniformItemSizes(true);
+    QAbstractItemModel* items = model();
+    connect(items, &QAbstractItemModel::modelReset, this, &TabbedListBox::forgetMeasures);
+    connect(items, &QAbstractItemModel::rowsInserted, this, &TabbedListBox::forgetMeasures);
+    connect(items, &QAbstractItemModel::rowsRemoved, this, &TabbedListBox::forgetMeasures);
+    connect(items, &QAbstractItemModel::dataChanged, this, &TabbedListBox::forgetMeasures);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -147,6 +149,31 @@ QStringList TabbedListBox::lines() const
     return result;
 }
 
+const QTextOption& TabbedListBox::textOption() const
+{
+    if (!textOption_)
+        textOption_ = tabbedTextOption(tabStops_, QFontMetricsF(font()));
+    return *textOption_;
+}
+
+int TabbedListBox::widestLine() const
+{
+    if (!widestLine_) {
+        qreal widest = 0;
+        for (int row = 0; row < count(); ++row) {
+            const TabbedLine tabbed(item(row)->text(), font(), textOption());
+            widest = std::max(widest, tabbed.line.naturalTextWidth());
+        }
+        widestLine_ = static_cast<int>(std::ceil(widest));
+    }
+    return *widestLine_;
+}
+
+void TabbedListBox::forgetMeasures()
+{
+    widestLine_.reset();
+}
+
 int TabbedListBox::textIndent() const
 {
     // The items start at the viewport's edge, inside the frame and any margins.
@@ -166,7 +193,7 @@ void TabbedListBox::fitToLines(int minimumRows, int minimumWidth)
     const int rowHeight = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 2;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const int frames = 2 * frameWidth();
-    const int widest = count() > 0 ? sizeHintForColumn(0) : 0;
+    const int widest = count() > 0 ? widestLine() + 2 * itemTextMargin(this) : 0;
 
     const int mostRows =
         std::max(minimumRows, (screenArea.height() * 4 / 5 - frames - scrollBar) / rowHeight);
@@ -189,8 +216,11 @@ QSize TabbedListBox::sizeHint() const
 void TabbedListBox::changeEvent(QEvent* event)
 {
     // The stops are measured in the font: a new font moves them.
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        textOption_.reset();
+        widestLine_.reset();
         doItemsLayout();
+    }
     QListWidget::changeEvent(event);
 }
 
@@ -203,8 +233,7 @@ TabbedHeading::TabbedHeading(const QString& text, const TabbedListBox* list, QWi
 
 QSize TabbedHeading::sizeHint() const
 {
-    const TabbedLine tabbed(text_, font(),
-                            tabbedTextOption(list_->tabStops(), QFontMetricsF(list_->font())));
+    const TabbedLine tabbed(text_, font(), list_->textOption());
     return {list_->textIndent() + static_cast<int>(std::ceil(tabbed.line.naturalTextWidth())),
             fontMetrics().height() + 2};
 }
@@ -214,8 +243,7 @@ void TabbedHeading::paintEvent(QPaintEvent* /*event*/)
     // The columns of the list scroll with it; the heading keeps step with them,
     // at the stops measured in the list's font whatever the heading's own.
     const int scrolled = list_->horizontalScrollBar()->value();
-    const TabbedLine tabbed(text_, font(),
-                            tabbedTextOption(list_->tabStops(), QFontMetricsF(list_->font())));
+    const TabbedLine tabbed(text_, font(), list_->textOption());
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     tabbed.layout.draw(&painter, QPointF(list_->textIndent() - scrolled, 1));

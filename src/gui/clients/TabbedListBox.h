@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -48,6 +49,12 @@ public:
 
     [[nodiscard]] const std::vector<int>& tabStops() const { return tabStops_; }
 
+    // The text option with the stops at the list's font.
+    [[nodiscard]] const QTextOption& textOption() const;
+
+    // The width of the widest line's text at the list's font, in pixels.
+    [[nodiscard]] int widestLine() const;
+
     // The list asks for room to show all its lines whole, or as much of them
     // as most of the screen holds, and at least the given rows and width.
     void fitToLines(int minimumRows, int minimumWidth);
@@ -57,8 +64,15 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void forgetMeasures();
+
     std::vector<int> tabStops_;
     QSize preferredSize_;
+    // Measured when first asked for, again after a new font or new lines: a
+    // list may hold thousands of lines, and the view asks for every measure
+    // many times over while it lays out and paints.
+    mutable std::optional<QTextOption> textOption_;
+    mutable std::optional<int> widestLine_;
 };
 
 // One tabbed line drawn with the stops of a list box below it, indented as its
