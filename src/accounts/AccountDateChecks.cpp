@@ -24,10 +24,9 @@ int checkDate(std::string_view date, DateKind kind, int currentYear, DateEntrySt
 
 } // namespace
 
-AccountDatesCheck
-checkAccountDates(std::string_view arrival, std::string_view departure, int currentYear,
-                  DateEntryState& state, std::string_view additionalNotes, RatesRecord& rates,
-                  const std::function<bool(std::string_view question)>& longStayIsRight)
+AccountDatesCheck checkAccountDates(std::string_view arrival, std::string_view departure,
+                                    int currentYear, DateEntryState& state,
+                                    std::string_view additionalNotes, RatesRecord& rates)
 {
     const int arrivalCode = checkDate(arrival, DateKind::ArrivalStart, currentYear, state);
     if (isDateError(arrivalCode))
@@ -38,11 +37,11 @@ checkAccountDates(std::string_view arrival, std::string_view departure, int curr
     const int departureCode = checkDate(departure, DateKind::DepartureEnd, currentYear, state);
     if (isDateError(departureCode))
         return apparentDateError(departureCode, DateKind::DepartureEnd);
-    if (departureCode == DateStayTooLong) {
-        const std::string_view question = dateErrorMessage(departureCode);
-        if (!longStayIsRight(question))
-            return {AccountDatesVerdict::LongStayWrong, departureCode, std::string(question), {}};
-    }
+    if (departureCode == DateStayTooLong)
+        return {AccountDatesVerdict::AskLongStay,
+                departureCode,
+                std::string(dateErrorMessage(departureCode)),
+                {}};
     return {};
 }
 

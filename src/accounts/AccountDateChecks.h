@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,13 +14,13 @@ namespace purrlodge {
 enum class AccountDatesVerdict {
     GoOn,              // compute and commit the account
     ApparentDateError, // show DIALOG 16 "Apparent Date Error"; the dialog stays open
-    LongStayWrong      // "Wrong" in the Long Stay Query; the dialog stays open
+    AskLongStay        // ask the Long Stay Query: "Right" goes on, "Wrong" stays open
 };
 
 struct AccountDatesCheck {
     AccountDatesVerdict verdict = AccountDatesVerdict::GoOn;
     int code = DateOk;     // the failed check's code (7 for a long stay)
-    std::string message;   // DIALOG 16 static 101
+    std::string message;   // DIALOG 16 static 101, or the Long Stay Query's question
     std::string dateLabel; // DIALOG 16 static 102: "Arrival/Start date" or "Departure/End date"
 };
 
@@ -31,13 +30,11 @@ struct AccountDatesCheck {
 //    account note of the in-memory rates record, so this account's printouts
 //    carry them; the saved NRATES.RTS is not touched.
 // 3. The departure is checked against the arrival; a code 1..6 is an Apparent
-//    Date Error. A stay of more than 21 days (code 7) opens the Long Stay
-//    Query: `longStayIsRight` is given its question ("More than 3 weeks?") and
-//    answers true for "Right", which goes on, and false for "Wrong".
+//    Date Error. A stay of more than 21 days (code 7) asks the Long Stay
+//    Query with its question ("More than 3 weeks?").
 // The numbers of both dates are left in `state` as every date entry leaves them.
 [[nodiscard]] AccountDatesCheck
 checkAccountDates(std::string_view arrival, std::string_view departure, int currentYear,
-                  DateEntryState& state, std::string_view additionalNotes, RatesRecord& rates,
-                  const std::function<bool(std::string_view question)>& longStayIsRight);
+                  DateEntryState& state, std::string_view additionalNotes, RatesRecord& rates);
 
 } // namespace purrlodge

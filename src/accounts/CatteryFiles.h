@@ -21,13 +21,15 @@ inline constexpr std::string_view exchangeRateFile = "EURORATE.XCH";
 // Each load clears the record and reads the whole file: a missing file leaves
 // zeros. Each returns whether the file could be opened (or written).
 bool loadEstablishment(const DataFolder& folder, EstablishmentRecord& establishment);
-bool saveEstablishment(const DataFolder& folder, const EstablishmentRecord& establishment);
+[[nodiscard]] bool saveEstablishment(const DataFolder& folder,
+                                     const EstablishmentRecord& establishment);
 bool loadColourBlock(const DataFolder& folder, ColourBlock& colours);
-bool saveColourBlock(const DataFolder& folder, const ColourBlock& colours);
+[[nodiscard]] bool saveColourBlock(const DataFolder& folder, const ColourBlock& colours);
 bool loadRates(const DataFolder& folder, RatesRecord& rates);
-bool saveRates(const DataFolder& folder, const RatesRecord& rates);
+[[nodiscard]] bool saveRates(const DataFolder& folder, const RatesRecord& rates);
 bool loadExchangeRate(const DataFolder& folder, ExchangeRateRecord& exchangeRate);
-bool saveExchangeRate(const DataFolder& folder, const ExchangeRateRecord& exchangeRate);
+[[nodiscard]] bool saveExchangeRate(const DataFolder& folder,
+                                    const ExchangeRateRecord& exchangeRate);
 
 // The manager's name's type size named by the display flags: the first of
 // their characters in "1".."5", or nothing when they hold none.

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "accounts/CatteryFiles.h"
-#include "app/Session.h"
+#include "ports/Ui.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge {
@@ -48,19 +48,21 @@ EstablishmentForm establishmentFormFrom(const EstablishmentRecord& establishment
     return form;
 }
 
-FormVerdict acceptEstablishmentForm(Session& session, const EstablishmentForm& form)
+FormVerdict acceptEstablishmentForm(const EstablishmentForm& form,
+                                    EstablishmentRecord& establishment, const DataFolder& folder,
+                                    Ui& ui)
 {
     const std::string_view name = std::string_view(form.name).substr(0, editLength);
     const std::string_view vaccination =
         std::string_view(form.vaccinationYears).substr(0, editLength);
     if (missingEntry(name) || missingEntry(vaccination)) {
-        session.ports.ui.showMessage({"You Must Provide at least the Establishment's Name\nand the "
-                                      "Duration of Vaccination validity.",
-                                      "Entry Void", MessageIcon::Exclamation});
+        ui.showMessage({"You Must Provide at least the Establishment's Name\nand the "
+                        "Duration of Vaccination validity.",
+                        "Entry Void", MessageIcon::Exclamation});
         return FormVerdict::EndProgram;
     }
 
-    EstablishmentRecord& record = session.establishment;
+    EstablishmentRecord record = establishment;
     record.name.set(form.name);
     record.manager.set(form.manager);
     for (int line = 0; line < 4; ++line)
@@ -92,27 +94,16 @@ FormVerdict acceptEstablishmentForm(Session& session, const EstablishmentForm& f
     const char first = form.typeSize.empty() ? '\0' : form.typeSize.front();
     const int typeSize = first >= '0' && first <= '9' ? first - '0' : 0;
     if (typeSize < 1 || typeSize > 5) {
-        session.ports.ui.showMessage(
+        ui.showMessage(
             {"Manager's name Text Size must be between 1 and 5 (incl)", "Text Size Error"});
         return FormVerdict::StayOpen;
     }
-    session.shell.managerTypeSize = typeSize;
     record.displayFlags.set(flags + static_cast<char>('0' + typeSize));
     record.chequesColour.set(form.inRed ? redCheques : blackCheques);
-    saveEstablishment(session.folder, record);
+    if (!saveEstablishment(folder, record))
+        return FormVerdict::StayOpen;
+    establishment = record;
     return FormVerdict::Accept;
-}
-
-std::optional<int> openEstablishmentDetails(Session& session)
-{
-    const std::optional<FormVerdict> verdict = session.ports.ui.runEstablishmentDetails(
-        establishmentFormFrom(session.establishment), session.folder.path(),
-        [&session](const EstablishmentForm& form) {
-            return acceptEstablishmentForm(session, form);
-        });
-    if (verdict == FormVerdict::EndProgram)
-        return 0;
-    return std::nullopt;
 }
 
 } // namespace purrlodge

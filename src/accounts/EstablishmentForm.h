@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "ports/FormVerdict.h"
+
 namespace purrlodge {
 
 // The entries of the Establishment Details dialog (DIALOG 13), as typed.
@@ -20,14 +22,6 @@ struct EstablishmentForm {
     bool onArrivalSheet = false;     // 130 "Arrival Sheet"
     bool onAccountSheet = false;     // 131 "Account Sheet"
     bool inRed = false;              // 139 "In Red" (else 140 "In Black")
-};
-
-// What pressing OK in a data-entry dialog comes to. The rule behind OK has
-// already shown any message.
-enum class FormVerdict {
-    Accept,    // saved: the dialog closes
-    StayOpen,  // a check failed: the dialog stays open with the entries as typed
-    EndProgram // the program must end now
 };
 
 } // namespace purrlodge

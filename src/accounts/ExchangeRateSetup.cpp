@@ -4,7 +4,6 @@
 
 #include "accounts/CatteryFiles.h"
 #include "accounts/FeeCalculation.h"
-#include "app/Session.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge {
@@ -26,12 +25,16 @@ ExchangeRateForm exchangeRateFormFrom(const ExchangeRateRecord& exchangeRate)
             exchangeRate.showEuros.get() != 0};
 }
 
-FormVerdict acceptExchangeRateForm(Session& session, const ExchangeRateForm& form)
+FormVerdict acceptExchangeRateForm(const ExchangeRateForm& form, ExchangeRateRecord& exchangeRate,
+                                   const DataFolder& folder)
 {
     const std::string_view typed = std::string_view(form.pencePerEuro).substr(0, rateEditLength);
-    session.exchangeRate.pencePerEuro.set(toStoredFloat(leadingDouble(typed)));
-    session.exchangeRate.showEuros.set(form.showEuros ? 1 : 0);
-    saveExchangeRate(session.folder, session.exchangeRate);
+    ExchangeRateRecord updated = exchangeRate;
+    updated.pencePerEuro.set(toStoredFloat(leadingDouble(typed)));
+    updated.showEuros.set(form.showEuros ? 1 : 0);
+    if (!saveExchangeRate(folder, updated))
+        return FormVerdict::StayOpen;
+    exchangeRate = updated;
     return FormVerdict::Accept;
 }
 

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "accounts/EstablishmentForm.h"
 #include "accounts/ExchangeRateRecord.h"
 #include "accounts/RatesRecord.h"
+#include "ports/FormVerdict.h"
 
 namespace purrlodge {
 
-class Session;
+class DataFolder;
 
 // Pound/Euro Exchange Rate (DIALOG 23), from Setup | Euro Exchange Rate.
 
@@ -25,7 +25,9 @@ struct ExchangeRateForm {
 [[nodiscard]] ExchangeRateForm exchangeRateFormFrom(const ExchangeRateRecord& exchangeRate);
 
 // OK: the edit (at most 11 characters) read atof-style becomes the pence per
-// euro, the box the flag, and EURORATE.XCH is written.
-FormVerdict acceptExchangeRateForm(Session& session, const ExchangeRateForm& form);
+// euro, the box the flag, and EURORATE.XCH is written. `exchangeRate` changes
+// only when the file was written; otherwise the dialog stays open.
+FormVerdict acceptExchangeRateForm(const ExchangeRateForm& form, ExchangeRateRecord& exchangeRate,
+                                   const DataFolder& folder);
 
 } // namespace purrlodge

@@ -6,9 +6,7 @@
 #include <limits>
 
 #include "accounts/StandardExtra.h"
-#include "app/Clock.h"
-#include "app/Session.h"
-#include "store/ClientFiles.h"
+#include "ports/Clock.h"
 #include "store/Dates.h"
 #include "store/TextHelpers.h"
 
@@ -211,35 +209,6 @@ FeeResult computeFee(const FeeEntries& entries, const RatesRecord& rates,
     const float standardExtra = standardExtraAmountFrom(entries.standardExtraAmount);
     fillAdjustments(entries, rates, exchangeRate, standardExtra, account);
     return {std::nullopt, standardExtra};
-}
-
-FeeResult computeAccount(Session& session, const FeeEntries& entries)
-{
-    const FeeResult result = computeFee(entries, session.rates, session.exchangeRate,
-                                        session.ports.clock, session.account);
-    if (!result.computed()) {
-        session.ports.ui.showMessage(*result.refusal);
-        return result;
-    }
-    session.client.arrivalDate.set(entries.arrival);
-    session.client.departureDate.set(entries.departure);
-    return result;
-}
-
-void commitAccountDates(Session& session)
-{
-    // Both pairs of dates hold the stay just accounted for.
-    ClientRecord& client = session.client;
-    const std::string arrival = session.account.arrivalDate.str();
-    const std::string departure = session.account.departureDate.str();
-    client.arrivalDate.set(arrival);
-    client.departureDate.set(departure);
-    client.lastInDate.set(arrival);
-    client.lastOutDate.set(departure);
-
-    const std::string code = client.code.str();
-    writeClientRecord(session.folder, code, client);
-    writeStayRecord(session.folder, code, session.stay);
 }
 
 std::string chargedDaysText(int days, bool perDay)

@@ -9,12 +9,11 @@
 #include "accounts/AccountRecord.h"
 #include "accounts/ExchangeRateRecord.h"
 #include "accounts/RatesRecord.h"
-#include "app/Ui.h"
+#include "ports/Message.h"
 
 namespace purrlodge {
 
 class Clock;
-class Session;
 
 // The boarding fee of one stay, worked out from the Account Preparation
 // dialog (DIALOG 8) into the money and day fields of the account. It runs when
@@ -88,17 +87,6 @@ struct FeeResult {
 [[nodiscard]] FeeResult computeFee(const FeeEntries& entries, const RatesRecord& rates,
                                    const ExchangeRateRecord& exchangeRate, const Clock& clock,
                                    AccountRecord& account);
-
-// The computation as the dialog runs it on the session: shows the refusal
-// through the Ui port, or copies the arrival and departure into the current
-// client's arrival and departure dates (in memory only) and computes
-// session.account from session.rates and session.exchangeRate.
-FeeResult computeAccount(Session& session, const FeeEntries& entries);
-
-// Commits an account's dates when OK issues it: the current client's arrival
-// and departure dates and its last-in and last-out dates all take the
-// account's dates, then the client record and the stay record are written.
-void commitAccountDates(Session& session);
 
 // ---- Texts the dialog shows ----
 

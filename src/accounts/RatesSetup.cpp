@@ -2,8 +2,7 @@
 
 #include "accounts/CatteryFiles.h"
 #include "accounts/FeeCalculation.h"
-#include "app/Clock.h"
-#include "app/Session.h"
+#include "ports/Clock.h"
 #include "store/Dates.h"
 #include "store/TextHelpers.h"
 
@@ -46,19 +45,20 @@ RatesForm ratesFormFrom(const RatesRecord& rates, const Clock& clock)
     return form;
 }
 
-RatesForm openRatesForm(Session& session)
+RatesForm openRatesForm(RatesRecord& rates, const DataFolder& folder, const Clock& clock)
 {
     RatesRecord onDisc{};
-    if (loadRates(session.folder, onDisc))
-        session.rates = onDisc;
-    return ratesFormFrom(session.rates, session.ports.clock);
+    if (loadRates(folder, onDisc))
+        rates = onDisc;
+    return ratesFormFrom(rates, clock);
 }
 
-FormVerdict acceptRatesForm(Session& session, const RatesForm& form)
+FormVerdict acceptRatesForm(const RatesForm& form, RatesRecord& saved, const DataFolder& folder,
+                            const Clock& clock)
 {
-    RatesRecord& rates = session.rates;
+    RatesRecord rates = saved;
     // The stamp is a 32-bit count of seconds, as the file holds it.
-    const auto now = static_cast<std::int32_t>(session.ports.clock.now());
+    const auto now = static_cast<std::int32_t>(clock.now());
     if (form.updatePreviousRates)
         rates.rateChangeTime.set(now);
     rates.perDay.set(form.perDay ? 1 : 0);
@@ -78,7 +78,9 @@ FormVerdict acceptRatesForm(Session& session, const RatesForm& form)
     }
     if (form.currency && *form.currency < currencyButtons)
         rates.currency.set(*form.currency);
-    saveRates(session.folder, rates);
+    if (!saveRates(folder, rates))
+        return FormVerdict::StayOpen;
+    saved = rates;
     return FormVerdict::Accept;
 }
 

@@ -5,13 +5,13 @@
 #include <optional>
 #include <string>
 
-#include "accounts/EstablishmentForm.h"
 #include "accounts/RatesRecord.h"
+#include "ports/FormVerdict.h"
 
 namespace purrlodge {
 
 class Clock;
-class Session;
+class DataFolder;
 
 // Setup Daily Board Rates (DIALOG 14), from Setup | Set Rates.
 
@@ -34,18 +34,21 @@ struct RatesForm {
 // change time (hours and minutes not padded).
 [[nodiscard]] RatesForm ratesFormFrom(const RatesRecord& rates, const Clock& clock);
 
-// Opens the dialog as the program does: reads NRATES.RTS again into
-// session.rates (a file that cannot be read leaves the record as it was) and
-// returns the opening form.
-[[nodiscard]] RatesForm openRatesForm(Session& session);
+// Opens the dialog as the program does: reads NRATES.RTS again into `rates`
+// (a file that cannot be read leaves the record as it was) and returns the
+// opening form.
+[[nodiscard]] RatesForm openRatesForm(RatesRecord& rates, const DataFolder& folder,
+                                      const Clock& clock);
 
-// The OK rules, in order, on session.rates: (1) the time now; (2) with "Yes"
+// The OK rules, in order, on `rates`: (1) the time now; (2) with "Yes"
 // it becomes the change time; (3) the charging unit; (4) with "Yes" the
 // present rates from before the dialog become the previous rates; (5) each
 // present-rate edit (at most 7 characters) read atof-style, so an empty one
 // stores 0; (6) when the previous rate for 1 cat is exactly 0, the previous
 // rates take the new present rates; (7) the checked currency, unchanged when
-// none is; (8) NRATES.RTS is written and the dialog closes.
-FormVerdict acceptRatesForm(Session& session, const RatesForm& form);
+// none is; (8) NRATES.RTS is written and the dialog closes. `rates` changes
+// only when the file was written; otherwise the dialog stays open.
+FormVerdict acceptRatesForm(const RatesForm& form, RatesRecord& rates, const DataFolder& folder,
+                            const Clock& clock);
 
 } // namespace purrlodge

@@ -2,7 +2,6 @@
 
 #include <string_view>
 
-#include "app/Session.h"
 #include "store/ClientFiles.h"
 #include "store/TextHelpers.h"
 
@@ -23,12 +22,16 @@ std::string receiptNumberOffer(const ClientIndex& index)
     return std::to_string(static_cast<std::int32_t>(static_cast<std::uint32_t>(last) + 1u));
 }
 
-FormVerdict acceptReceiptNumber(Session& session, const std::string& typed)
+FormVerdict acceptReceiptNumber(const std::string& typed, ClientIndex& index,
+                                const DataFolder& folder)
 {
     // Seven characters hold no number that atoi could overflow.
     const int first = leadingInt(std::string_view(typed).substr(0, numberEditLength));
-    session.index.lastAccountNumber.set(first - 1);
-    writeIndex(session.folder, session.index);
+    ClientIndex updated = index;
+    updated.lastAccountNumber.set(first - 1);
+    if (!writeIndex(folder, updated))
+        return FormVerdict::StayOpen;
+    index = updated;
     return FormVerdict::Accept;
 }
 

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "accounts/EstablishmentForm.h"
+#include "ports/FormVerdict.h"
 #include "store/ClientIndex.h"
 
 namespace purrlodge {
 
-class Session;
+class DataFolder;
 
 // Initial Receipt Number (DIALOG 15), from Setup | Set Account Number. The
 // counter is the last receipt number issued, in the FIDEX.CTL header.
@@ -18,7 +18,9 @@ class Session;
 
 // OK: the text (at most 7 characters) read atoi-style, less one, becomes the
 // last receipt number, so the next account takes the number typed; FIDEX.CTL
-// is rewritten. Cancel calls nothing and leaves the counter alone.
-FormVerdict acceptReceiptNumber(Session& session, const std::string& typed);
+// is rewritten. The counter in `index` changes only when the index was
+// written; otherwise the dialog stays open. Cancel leaves the counter alone.
+FormVerdict acceptReceiptNumber(const std::string& typed, ClientIndex& index,
+                                const DataFolder& folder);
 
 } // namespace purrlodge

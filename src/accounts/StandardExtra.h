@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "accounts/RatesRecord.h"
-#include "app/Ui.h"
+#include "ports/Message.h"
 
 namespace purrlodge {
 

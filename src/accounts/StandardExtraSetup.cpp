@@ -4,7 +4,6 @@
 
 #include "accounts/CatteryFiles.h"
 #include "accounts/FeeCalculation.h"
-#include "app/Session.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge {
@@ -21,18 +20,21 @@ StandardExtraForm standardExtraFormFrom(const RatesRecord& rates)
             formatted("%.2f", static_cast<double>(rates.standardExtraCharge.get()))};
 }
 
-FormVerdict acceptStandardExtraForm(Session& session, const StandardExtraForm& form)
+FormVerdict acceptStandardExtraForm(const StandardExtraForm& form, RatesRecord& rates,
+                                    const DataFolder& folder)
 {
     // Start from what is on disc, so that nothing else in memory is saved.
     RatesRecord onDisc{};
-    if (loadRates(session.folder, onDisc))
-        session.rates = onDisc;
+    if (loadRates(folder, onDisc))
+        rates = onDisc;
 
-    RatesRecord& rates = session.rates;
-    rates.standardExtraName.set(std::string_view(form.name).substr(0, editLength));
+    RatesRecord updated = rates;
+    updated.standardExtraName.set(std::string_view(form.name).substr(0, editLength));
     const std::string_view amount = std::string_view(form.amount).substr(0, editLength);
-    rates.standardExtraCharge.set(toStoredFloat(leadingDouble(amount)));
-    saveRates(session.folder, rates);
+    updated.standardExtraCharge.set(toStoredFloat(leadingDouble(amount)));
+    if (!saveRates(folder, updated))
+        return FormVerdict::StayOpen;
+    rates = updated;
     return FormVerdict::Accept;
 }
 

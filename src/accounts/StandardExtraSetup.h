@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "accounts/EstablishmentForm.h"
 #include "accounts/RatesRecord.h"
+#include "ports/FormVerdict.h"
 
 namespace purrlodge {
 
-class Session;
+class DataFolder;
 
 // Set Standard Extra (DIALOG 77), from Setup | Set Standard Extra.
 
@@ -20,10 +20,12 @@ struct StandardExtraForm {
 // that OK without a change keeps it.
 [[nodiscard]] StandardExtraForm standardExtraFormFrom(const RatesRecord& rates);
 
-// OK: NRATES.RTS is read again into session.rates (a file that cannot be read
+// OK: NRATES.RTS is read again into `rates` (a file that cannot be read
 // leaves the record as it was), the name (at most 23 characters) and the
 // amount (at most 23 characters, read atof-style) are stored and the record
-// is written back.
-FormVerdict acceptStandardExtraForm(Session& session, const StandardExtraForm& form);
+// is written back. The extra changes in `rates` only when the file was
+// written; otherwise the dialog stays open.
+FormVerdict acceptStandardExtraForm(const StandardExtraForm& form, RatesRecord& rates,
+                                    const DataFolder& folder);
 
 } // namespace purrlodge

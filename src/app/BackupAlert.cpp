@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/Clock.h"
-#include "app/Profile.h"
+#include "ports/Clock.h"
+#include "ports/Profile.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge {
@@ -40,7 +40,8 @@ bool runBackupAlert(Ui& ui, Profile& profile, const Clock& clock)
     const std::int64_t now = clock.now();
     if (const std::optional<Message> alert = backupAlertFor(lastBackup, reminderOn, now, clock)) {
         ui.showMessage(*alert);
-        profile.write("LastWarn", std::to_string(now));
+        // LastWarn is only a record; a failure has been told and changes nothing.
+        static_cast<void>(profile.write("LastWarn", std::to_string(now)));
     }
     return reminderOn;
 }

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "app/Ui.h"
+#include "ports/Ui.h"
 
 namespace purrlodge {
 

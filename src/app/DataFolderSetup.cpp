@@ -6,7 +6,8 @@
 #include <system_error>
 #include <vector>
 
-#include "store/ClientFiles.h"
+#include "ports/Profile.h"
+#include "ports/Ui.h"
 #include "store/DataFolder.h"
 #include "store/Windows1252.h"
 
@@ -22,13 +23,15 @@ constexpr std::string_view setDefaultDirectoryTitle = "Set Default Directory";
 // The index name as the dialogs look for it; the look-up ignores case.
 constexpr std::string_view indexProbeName = "fidex.CTL";
 
-// Writes CurrentDir and tells the person to restart.
-void registerDataFolder(Ports& ports, const std::string& folder)
+// Writes CurrentDir and tells the person to restart; false when the setting
+// could not be written (the person has been told so instead).
+bool registerDataFolder(Profile& profile, Ui& ui, const std::string& folder)
 {
-    ports.profile.write("CurrentDir", folder);
-    ports.ui.showMessage(
-        {"OK, '" + folder + "' is now your active directory. Please restart the program",
-         std::string(setDefaultDirectoryTitle)});
+    if (!profile.write("CurrentDir", folder))
+        return false;
+    ui.showMessage({"OK, '" + folder + "' is now your active directory. Please restart the program",
+                    std::string(setDefaultDirectoryTitle)});
+    return true;
 }
 
 // The short names of the errors a deletion may meet, as the C library's
@@ -130,38 +133,41 @@ bool holdsClientIndex(Ui& ui, const std::string& folder)
     return probe.existsIgnoringCase(indexProbeName);
 }
 
-int acceptDirectorySetup(Ports& ports, const std::string& typedFolder)
+int acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
+                         DataFolderQuestions& questions)
 {
     const std::string folder = dataFolderFromTyped(typedFolder);
-    if (holdsClientIndex(ports.ui, folder)) {
-        if (!ports.ui.askDirectoryCheck()) {
-            ports.ui.showMessage(
+    if (holdsClientIndex(ui, folder)) {
+        if (!questions.askDirectoryCheck()) {
+            ui.showMessage(
                 {"The directory was not registered", std::string(setDefaultDirectoryTitle)});
             return 0;
         }
         // Registered here with a request to quit with code 0; the person then
         // sees the confirmation a second time from the new-folder steps below,
         // whose request to quit with code 1 replaces the first.
-        registerDataFolder(ports, folder);
+        if (!registerDataFolder(profile, ui, folder))
+            return 0;
     }
     makeFolderChain(folder);
-    registerDataFolder(ports, folder);
-    return 1;
+    return registerDataFolder(profile, ui, folder) ? 1 : 0;
 }
 
-std::optional<int> acceptChangeDataSource(Ports& ports, const std::string& typedFolder)
+std::optional<int> acceptChangeDataSource(const std::string& typedFolder, Profile& profile, Ui& ui,
+                                          DataFolderQuestions& questions)
 {
     const std::string folder = dataFolderFromTyped(typedFolder);
     if (makeFolderChain(folder) != 1) {
-        if (!holdsClientIndex(ports.ui, folder)) {
+        if (!holdsClientIndex(ui, folder)) {
             // Whatever the answer, the folder is registered; the next start
             // creates its index.
-            ports.ui.askNewDirectory(folder);
-        } else if (!ports.ui.askDirectoryCheck()) {
+            questions.askNewDirectory(folder);
+        } else if (!questions.askDirectoryCheck()) {
             return std::nullopt;
         }
     }
-    registerDataFolder(ports, folder);
+    if (!registerDataFolder(profile, ui, folder))
+        return std::nullopt;
     return 1;
 }
 

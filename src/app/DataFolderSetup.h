@@ -4,14 +4,27 @@
 #include <string>
 #include <string_view>
 
-#include "app/Ports.h"
-
 namespace purrlodge {
+
+class Profile;
+class Ui;
 
 // Choosing the one data folder: Directory Setup (DIALOG 1, first run) and
 // Change Data Source (DIALOG 30, Setup | Change Data Set). Both register the
 // folder in CurrentDir and ask the program to quit: a new folder takes effect
 // at the next start.
+
+// The questions asked while a data folder is chosen.
+class DataFolderQuestions {
+public:
+    virtual ~DataFolderQuestions() = default;
+
+    // Directory Check (DIALOG 11): whether to use the data already in the folder.
+    virtual bool askDirectoryCheck() = 0;
+
+    // New Directory (DIALOG 32): whether to create the folder shown.
+    virtual bool askNewDirectory(const std::string& folder) = 0;
+};
 
 // The main window's caption: "Purrlodge.exe - (Using Data in: %s)", the
 // folder as stored, even when empty.
@@ -25,12 +38,16 @@ namespace purrlodge {
 [[nodiscard]] bool holdsClientIndex(Ui& ui, const std::string& folder);
 
 // Directory Setup OK: registers the typed folder, or not, and returns the code
-// the program must quit with (it always quits).
-int acceptDirectorySetup(Ports& ports, const std::string& typedFolder);
+// the program must quit with (it always quits). The person is told the folder
+// is registered only when CurrentDir was written.
+int acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
+                         DataFolderQuestions& questions);
 
 // Change Data Source (DIALOG 30) OK: the quit code once the folder is
-// registered, nothing when the dialog stays open.
-std::optional<int> acceptChangeDataSource(Ports& ports, const std::string& typedFolder);
+// registered, nothing when the dialog stays open (also when CurrentDir could
+// not be written).
+std::optional<int> acceptChangeDataSource(const std::string& typedFolder, Profile& profile, Ui& ui,
+                                          DataFolderQuestions& questions);
 
 // Makes every missing level of a folder path (ending in the separator or not).
 // Returns 1 when the folder itself did not exist and has now been made, else 0.

@@ -40,9 +40,9 @@ public:
     // Sets key in section. An existing key keeps its line, its position and its
     // spelling in the file (so writing "PicDets" over "Picdets" leaves the name
     // "Picdets"); only the value after the '=' changes. A new key goes after the
-    // last line of its section, a new section at the end of the file. New lines
-    // end as the file's first line does, LF in a new file. A value is cut at a
-    // line break, which could not be read back.
+    // last filled line of its section, a new section at the end of the file.
+    // New lines end as the file's first line does, LF in a new file. A value is
+    // cut at a line break, which could not be read back.
     void setValue(std::string_view section, std::string_view key, std::string_view value);
 
     // Writes the file crash-safely: a temporary file beside it, flushed to the

@@ -33,7 +33,7 @@ std::string IniProfile::read(std::string_view key) const
     return value;
 }
 
-void IniProfile::write(std::string_view key, std::string_view value)
+bool IniProfile::write(std::string_view key, std::string_view value)
 {
     std::string reason;
     // A file that exists but cannot be read is not replaced: that would lose
@@ -42,10 +42,11 @@ void IniProfile::write(std::string_view key, std::string_view value)
     if (ini) {
         ini->setValue(section_, key, value);
         if (ini->save(file_, reason))
-            return;
+            return true;
     }
     if (onWriteError_)
         onWriteError_(file_.string(), reason);
+    return false;
 }
 
 } // namespace purrlodge

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Profile.h"
+#include "ports/Profile.h"
 
 namespace purrlodge {
 
@@ -34,8 +34,8 @@ public:
     [[nodiscard]] std::string read(std::string_view key) const override;
 
     // Sets the key, keeping every other line of the file as it was. On failure
-    // the file is left unchanged and the error handler is told.
-    void write(std::string_view key, std::string_view value) override;
+    // the file is left unchanged, the error handler is told and false returned.
+    [[nodiscard]] bool write(std::string_view key, std::string_view value) override;
 
     [[nodiscard]] const std::filesystem::path& file() const { return file_; }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/Profile.h"
 #include "app/ShellState.h"
+#include "ports/Profile.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge {
@@ -28,7 +28,9 @@ int rotatePicture(Profile& profile, int today)
     const std::optional<int> advanced = advancedPictureIndex(index, storedDay, today);
     if (!advanced)
         return index;
-    profile.write("PicDets", std::to_string(*advanced) + " $ " + std::to_string(today));
+    // Unsaved, the picture is shown today all the same and advances again next time.
+    static_cast<void>(
+        profile.write("PicDets", std::to_string(*advanced) + " $ " + std::to_string(today)));
     return *advanced;
 }
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/Random.h"
+#include "ports/Random.h"
 
 namespace purrlodge {
 

@@ -5,7 +5,7 @@
 #include <system_error>
 #include <utility>
 
-#include "app/Profile.h"
+#include "ports/Profile.h"
 #include "store/DataFolder.h"
 #include "store/TextHelpers.h"
 #include "store/Windows1252.h"

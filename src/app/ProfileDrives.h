@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Drives.h"
+#include "ports/Drives.h"
 
 namespace purrlodge {
 

@@ -11,11 +11,6 @@ namespace purrlodge {
 
 inline constexpr int pictureCount = 21;
 
-// The characters a client's or cat's name may hold (client entry checks names
-// against them).
-inline constexpr std::string_view permittedNameCharacterSet =
-    "'.abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ -";
-
 inline constexpr std::string_view defaultPrintingFontName = "Times New Roman";
 
 // One pair of numbers per picture index 0..20, in index order, handed to the
@@ -52,6 +47,13 @@ struct ShellState {
 
     std::string programFolder;    // the working folder at start, also written to ProgDir
     std::string perFolderIniPath; // programFolder + "Purrlodge.ini"; formed and kept, never read
+
+    // Whether Help | See Picture Notes is offered: the picture shown has notes.
+    [[nodiscard]] bool pictureHasNotes() const
+    {
+        return pictureIndex >= 0 && pictureIndex < pictureCount &&
+               pictureFlags[static_cast<std::size_t>(pictureIndex)];
+    }
 };
 
 } // namespace purrlodge

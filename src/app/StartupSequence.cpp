@@ -5,12 +5,12 @@
 #include <system_error>
 
 #include "accounts/CatteryFiles.h"
-#include "accounts/EstablishmentDetails.h"
 #include "app/BackupAlert.h"
-#include "app/DataFolderSetup.h"
 #include "app/PictureRotation.h"
 #include "app/Session.h"
+#include "clients/ClientFormRules.h"
 #include "store/ClientFiles.h"
+#include "store/IndexOperations.h"
 #include "store/Windows1252.h"
 
 namespace purrlodge {
@@ -41,7 +41,8 @@ void recordProgramFolder(Session& session)
     const std::filesystem::path working = std::filesystem::current_path(error);
     session.shell.programFolder = windows1252Of(working);
     session.shell.perFolderIniPath = windows1252Of(working / "Purrlodge.ini");
-    session.ports.profile.write("ProgDir", session.shell.programFolder);
+    // A setting that cannot be written has been told; the run goes on.
+    static_cast<void>(session.ports.profile.write("ProgDir", session.shell.programFolder));
 }
 
 // Step 1. Returns the day of the month for the picture rotation.
@@ -56,19 +57,19 @@ int prepareShellState(Session& session)
 }
 
 // Step 4. The quit code when Directory Setup ended the run.
-std::optional<int> chooseDataFolder(Session& session, const std::string& suggestedDataFolder)
+std::optional<int> chooseDataFolder(Session& session, StartupQuestions& questions,
+                                    const std::string& suggestedDataFolder)
 {
     const std::string currentDir = session.ports.profile.read("CurrentDir");
     if (!currentDir.empty() && !session.shell.switches.forceDirectorySetup) {
         session.folder.setPath(currentDir);
         return std::nullopt;
     }
-    const std::optional<std::string> typed =
-        session.ports.ui.askDirectorySetup(suggestedDataFolder);
+    const std::optional<std::string> typed = questions.askDirectorySetup(suggestedDataFolder);
     if (!typed)
         return 1;
     // A registered folder is used from the next start; this run ends here.
-    return acceptDirectorySetup(session.ports, *typed);
+    return acceptDirectorySetup(*typed, session.ports.profile, session.ports.ui, questions);
 }
 
 // Step 5.
@@ -80,14 +81,16 @@ void readDisplaySettings(Session& session)
         session.ports.profile.read("musnotes").find('N') == std::string::npos;
 }
 
-// Step 6: a folder without an index gets an empty one.
+// Step 6: a folder without an index gets an empty one. A folder that cannot
+// be written has been told so by its file error; the run goes on with the
+// empty index, and every later save is refused the same way.
 void openClientIndex(Session& session)
 {
     if (!readIndex(session.folder, session.index)) {
         session.index.formatStamp.set(0);
         session.index.count.set(0);
         session.index.backupReminderMode.set(1);
-        writeIndex(session.folder, session.index);
+        static_cast<void>(writeIndex(session.folder, session.index));
     }
     session.shell.backupReminderMode = session.index.backupReminderMode.get();
 }
@@ -100,13 +103,13 @@ bool indexIsCompatible(const ClientIndex& index)
 }
 
 // Step 9. The quit code when Establishment Details ended the run.
-std::optional<int> loadCatteryFiles(Session& session)
+std::optional<int> loadCatteryFiles(Session& session, EstablishmentDetailsQuestion& questions)
 {
     loadRates(session.folder, session.rates);
     loadColourBlock(session.folder, session.colourBlock);
     const bool haveEstablishment = loadEstablishment(session.folder, session.establishment);
     if (!haveEstablishment || session.shell.switches.forceEstablishmentSetup)
-        return openEstablishmentDetails(session);
+        return openEstablishmentDetails(session, questions);
     return std::nullopt;
 }
 
@@ -123,7 +126,8 @@ void checkRatesAndEuroRate(Session& session)
 
 } // namespace
 
-StartupOutcome runStartupSequence(Session& session, const std::string& suggestedDataFolder)
+StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
+                                  const std::string& suggestedDataFolder)
 {
     recordProgramFolder(session);
 
@@ -131,7 +135,8 @@ StartupOutcome runStartupSequence(Session& session, const std::string& suggested
     session.shell.pictureIndex = rotatePicture(session.ports.profile, dayOfMonth);
     session.shell.printingFontName = std::string(defaultPrintingFontName);
 
-    if (const std::optional<int> quitCode = chooseDataFolder(session, suggestedDataFolder))
+    if (const std::optional<int> quitCode =
+            chooseDataFolder(session, questions, suggestedDataFolder))
         return {false, *quitCode};
     readDisplaySettings(session);
 
@@ -141,9 +146,11 @@ StartupOutcome runStartupSequence(Session& session, const std::string& suggested
         return {false, 0};
     }
     readIndex(session.folder, session.index);
-    sortIndex(session.folder, session.index, true);
+    sortIndexEntries(session.index);
+    // Sorted on disc too; should that fail, the sorted index in memory still serves.
+    static_cast<void>(writeIndex(session.folder, session.index));
 
-    if (const std::optional<int> quitCode = loadCatteryFiles(session))
+    if (const std::optional<int> quitCode = loadCatteryFiles(session, questions))
         return {false, *quitCode};
     if (const std::optional<int> typeSize = managerTypeSizeOf(session.establishment))
         session.shell.managerTypeSize = *typeSize;

@@ -1,10 +1,24 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "app/DataFolderSetup.h"
+#include "app/commands/CatterySetup.h"
 
 namespace purrlodge {
 
 class Session;
+
+// The questions start-up may ask: Directory Setup and the data-folder
+// questions on a first run, Establishment Details for a data folder that has
+// none.
+class StartupQuestions : public DataFolderQuestions, public EstablishmentDetailsQuestion {
+public:
+    // Directory Setup (DIALOG 1): the folder typed when OK is pressed, or
+    // nothing on Cancel. The edit starts with the suggestion.
+    virtual std::optional<std::string> askDirectorySetup(const std::string& suggestion) = 0;
+};
 
 // How start-up ended: carry on into the main window, or end the program with
 // the quit code.
@@ -23,6 +37,7 @@ struct StartupOutcome {
 // Details when the establishment is missing or asked for), the manager's type
 // size, the rates and euro-rate warnings, the backup alert, the picture table
 // and the rates-usable flag.
-StartupOutcome runStartupSequence(Session& session, const std::string& suggestedDataFolder);
+StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
+                                  const std::string& suggestedDataFolder);
 
 } // namespace purrlodge

@@ -1,7 +1,8 @@
 #include "clients/ClientDetails.h"
 
-#include "app/Clock.h"
+#include "ports/Clock.h"
 #include "store/CatSlots.h"
+#include "store/ClientFields.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
 #include "store/Dates.h"
@@ -10,8 +11,6 @@
 namespace purrlodge {
 
 namespace {
-
-constexpr std::int64_t secondsPerYear = 31536000; // 365 days
 
 // A listing's cat line ends in ", " when a later slot still holds a cat, so a
 // record with a gap between its cats still reads as one list.
@@ -22,13 +21,6 @@ bool laterCatFollows(const ClientRecord& client, int slot)
             return true;
     }
     return false;
-}
-
-// Month and two-figure year of a last-vaccination date: "mm/yy".
-std::string lastVaccinationText(std::int32_t serial, const Clock& clock)
-{
-    const CivilTime date = clock.toLocal(serial);
-    return formatted("%02d/%02d", date.month, date.year % 100);
 }
 
 // "name\t[sex]\tAge=n\t", the start both listings share; they differ only in
@@ -59,8 +51,7 @@ std::string currentCatLine(const ClientRecord& client, int slot, int currentYear
     line += chipWord(client.catMicrochip[slot].get());
     line += " / ";
     line += insuranceWord(client.catInsurance[slot].get());
-    line +=
-        "   (Last Vac: " + lastVaccinationText(client.catLastVaccination[slot].get(), clock) + ')';
+    line += "   (Last Vac: " + monthAndYearText(client.catLastVaccination[slot].get(), clock) + ')';
     return line;
 }
 
@@ -68,8 +59,7 @@ std::string pastCatLine(const ClientRecord& client, int slot, int currentYear, c
 {
     std::string line = catLineStart(client, slot, currentYear, "Age= ??");
     line += client.catColour[slot].str();
-    line +=
-        "\t(Last Vac: " + lastVaccinationText(client.catLastVaccination[slot].get(), clock) + ')';
+    line += "\t(Last Vac: " + monthAndYearText(client.catLastVaccination[slot].get(), clock) + ')';
     return line;
 }
 
@@ -118,7 +108,7 @@ ClientDetailsListing buildListing(const ClientRecord& client, std::string_view f
     // The fourth address line shares its line with the telephone.
     lines.push_back(client.address[3].str() + "\t\tTel: " + client.telephone.str());
     if (current)
-        lines.push_back("\t\tMobile: " + textBefore(client.mobile.str(), "::"));
+        lines.push_back("\t\tMobile: " + mobileNumberOf(client));
     lines.insert(lines.end(), {" ", "E-mail: " + client.email.str(), " ",
                                "Vet is - " + client.vet.str(), " ", "Cats:"});
 
@@ -158,20 +148,6 @@ ClientDetailsListing buildListing(const ClientRecord& client, std::string_view f
 }
 
 } // namespace
-
-char sexLetter(std::int32_t sexCode)
-{
-    switch (sexCode) {
-    case 1:
-        return 'M';
-    case 2:
-        return 'F';
-    case 3:
-        return 'm';
-    default:
-        return 'f';
-    }
-}
 
 std::string_view chipWord(std::int32_t chipState)
 {

@@ -28,10 +28,6 @@ struct ClientDetailsListing {
     bool specialNotesEnabled = false; // "See Special Notes" (103)
 };
 
-// The letter shown for a cat's sex code: 1 'M', 2 'F', 3 'm', anything else
-// (an unstated sex included) 'f'.
-[[nodiscard]] char sexLetter(std::int32_t sexCode);
-
 // "Chip?", "Chip-", "Chip+" for chip state 0, 1, 2 (other values read as 0).
 [[nodiscard]] std::string_view chipWord(std::int32_t chipState);
 

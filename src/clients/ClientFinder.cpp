@@ -1,7 +1,5 @@
 #include "clients/ClientFinder.h"
 
-#include "app/CommandIds.h"
-#include "app/Session.h"
 #include "store/CatSlots.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
@@ -10,11 +8,6 @@
 namespace purrlodge {
 
 namespace {
-
-bool contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != std::string_view::npos;
-}
 
 Message tooManyMatches(FinderSearch search)
 {
@@ -37,7 +30,7 @@ void findPeople(const DataFolder& folder, const ClientIndex& index, std::string_
             continue;
         if (static_cast<int>(result.matches.size()) == finderMatchLimit) {
             result.tooManyMatches = tooManyMatches(FinderSearch::Person);
-            return;
+            break;
         }
         result.matches.push_back({surname, index.entries[entry].code.str(), entry, {}});
     }
@@ -70,14 +63,6 @@ void findCats(const DataFolder& folder, const ClientIndex& index, std::string_vi
 }
 
 } // namespace
-
-FinderOptions finderOptionsFor(int commandId)
-{
-    FinderOptions options;
-    options.catOnly = commandId == command::makeNotes;
-    options.anyFirstCharacter = commandId == command::editClientDetails;
-    return options;
-}
 
 FinderNameCheck checkFinderName(std::string_view text, bool anyFirstCharacter, bool& diagnostics)
 {
@@ -135,12 +120,6 @@ FinderHelpTexts finderHelpTexts()
             "Search for Cat: type any part of the cat's name (upper and lower case count). "
             "\"ig\" finds Tigger and Pig. At most 12 matches are offered: type more of the "
             "name to narrow the search."};
-}
-
-void chooseClient(Session& session, const FinderMatch& match)
-{
-    readClientRecord(session.folder, match.code, session.client);
-    readStayRecord(session.folder, match.code, session.stay);
 }
 
 } // namespace purrlodge

@@ -6,14 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Ui.h"
+#include "ports/Message.h"
 #include "store/ClientIndex.h"
 #include "store/ClientRecord.h"
 
 namespace purrlodge {
 
 class DataFolder;
-class Session;
 
 // The client finder: DIALOG 4 "Client Index" takes a name, the index or every
 // client record is searched, and DIALOG 2 "Matching Clients" offers the
@@ -39,14 +38,6 @@ struct FinderOptions {
         return catOnly ? FinderSearch::Cat : FinderSearch::Person;
     }
 };
-
-// The finder options of the command that opens it. Make Notes opens the
-// cat-only finder: a note book is kept about the cats' special needs, so it is
-// looked up by the cat it concerns. Edit Client Details takes a name with any
-// first character, so that a client whose stored surname does not start with a
-// capital (older data sets, names entered before the check) can still be found
-// and put right. Every other command opens the ordinary finder.
-[[nodiscard]] FinderOptions finderOptionsFor(int commandId);
 
 enum class FinderNameVerdict {
     Search,              // go on and search
@@ -82,7 +73,8 @@ struct FinderResult {
     // no match this is the one "No %s of name %s found" text and no radio
     // button is checked; otherwise the first is.
     std::vector<std::string> rows;
-    // Shown before DIALOG 2 when a 13th match stopped the search.
+    // Shown before DIALOG 2 when a 13th match stopped the search; the twelve
+    // rows found before it are shown as usual.
     std::optional<Message> tooManyMatches;
 };
 
@@ -92,10 +84,6 @@ struct FinderResult {
 // the text. Each record is read at most once.
 [[nodiscard]] FinderResult findClients(const DataFolder& folder, const ClientIndex& index,
                                        FinderSearch search, std::string_view text);
-
-// Makes the chosen client the current one: its client and stay records are
-// read into the session.
-void chooseClient(Session& session, const FinderMatch& match);
 
 // "(Tom, Kitty)": the cat names up to the first empty slot, or "(No cat now)"
 // when the first slot is empty.

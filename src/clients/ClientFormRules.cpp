@@ -3,13 +3,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "app/Session.h"
-#include "app/ShellState.h"
 #include "clients/CatNameChange.h"
 #include "clients/ClientFormQuestions.h"
 #include "clients/LeavingCat.h"
+#include "ports/Clock.h"
+#include "ports/Ui.h"
 #include "store/CatSlots.h"
-#include "store/CivilCalendar.h"
+#include "store/ClientFields.h"
 #include "store/ClientFiles.h"
 #include "store/Dates.h"
 #include "store/IndexOperations.h"
@@ -20,17 +20,11 @@ namespace purrlodge {
 namespace {
 
 constexpr std::string_view redNotePrefix = "#R# ";
-constexpr std::string_view mobileTerminator = "::";
 constexpr std::string_view chipInsuranceCharacters = "ci+- /";
 constexpr std::string_view sexLetters = "MmFf";
 constexpr std::size_t stayDateLength = 12;
 constexpr int improbableBirthYearSpan = 25;
 constexpr std::string_view dateWarningTitle = "Apparent Date Error";
-
-bool contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != std::string_view::npos;
-}
 
 // The text after the red marker: after "#R# " as the program writes it, or
 // after a bare "#R#" typed by hand.
@@ -41,12 +35,10 @@ std::string withoutRedMarker(std::string_view text)
     return textAfter(text, redNoteMarker);
 }
 
-std::string sexLetter(int code)
+// The sex box shows nothing for an unstated sex.
+std::string sexEntry(std::int32_t code)
 {
-    if (code <= 0)
-        return {};
-    static constexpr std::string_view letters = "MFmf";
-    return std::string(1, letters[static_cast<std::size_t>(code < 4 ? code - 1 : 3)]);
+    return code > 0 ? std::string(1, sexLetter(code)) : std::string();
 }
 
 std::string chipInsuranceText(int chip, int insurance)
@@ -63,12 +55,9 @@ std::string chipInsuranceText(int chip, int insurance)
     return text;
 }
 
-std::string lastVaccinationText(std::int32_t serial)
+std::string lastVaccinationEntry(std::int32_t serial, const Clock& clock)
 {
-    if (serial <= 0)
-        return {};
-    const CivilTime date = civilFromSeconds(serial);
-    return formatted("%02d/%02d", date.month, date.year % 100);
+    return serial > 0 ? monthAndYearText(serial, clock) : std::string();
 }
 
 // 2 for "x+", 1 for "x-", 0 when neither is given.
@@ -106,12 +95,13 @@ Message clientListFullMessage()
 // record, which replaces the current client only when the save goes through.
 class ClientFormOk {
 public:
-    ClientFormOk(Session& session, const ClientForm& form, ClientFormQuestions& questions)
-        : session_(session), form_(form), questions_(questions),
+    ClientFormOk(const ClientForm& form, const ClientFormContext& context,
+                 ClientFormQuestions& questions)
+        : context_(context), form_(form), questions_(questions),
           editing_(form.mode == ClientFormMode::EditClient)
     {
         if (editing_)
-            draft_ = session.client;
+            draft_ = context.client;
         else
             clearClientRecord(draft_);
     }
@@ -122,8 +112,9 @@ public:
             return FormVerdict::StayOpen;
         if (!checkKnownGiven() || !checkFirstName() || !checkSurname())
             return FormVerdict::StayOpen;
-        draft_.mobile.set(form_.mobile + std::string(mobileTerminator));
-        takeSurname();
+        draft_.mobile.set(storedMobileNumber(form_.mobile));
+        if (!takeSurname())
+            return FormVerdict::StayOpen;
         draft_.style.set(form_.style);
         draft_.firstName.set(form_.firstName);
         for (int slot = 0; slot < catSlotCount; ++slot) {
@@ -150,13 +141,13 @@ private:
 
     bool fail(Message message)
     {
-        session_.ports.ui.showMessage(message);
+        context_.ui.showMessage(message);
         return false;
     }
 
     bool roomForNewClient()
     {
-        if (const auto refusal = newClientRefusal(session_.index))
+        if (const auto refusal = newClientRefusal(context_.index))
             return fail(*refusal);
         return true;
     }
@@ -168,7 +159,7 @@ private:
         if (!hasLetterOrDigit(form_.known))
             return fail({"please enter a value for 'known' eg 1 if not known", "Missing Value",
                          MessageIcon::None});
-        const CivilTime today = session_.ports.clock.toLocal(session_.ports.clock.now());
+        const CivilTime today = context_.clock.toLocal(context_.clock.now());
         draft_.firstRegistered.set(static_cast<std::int32_t>(
             dateToNumber(formatDateText(today.day, today.month, today.year % 100))));
         draft_.inactive.set(0);
@@ -200,28 +191,45 @@ private:
         return true;
     }
 
-    // A confirmed change of surname is saved at once, under the unchanged code.
-    void takeSurname()
+    // A confirmed change of surname is saved at once, under the unchanged
+    // code, with the index entry's key; false when a write failed.
+    bool takeSurname()
     {
         if (!editing_) {
             draft_.surname.set(form_.surname);
-            return;
+            return true;
         }
-        ClientRecord& stored = session_.client;
+        const ClientRecord& stored = context_.client;
         if (form_.surname == stored.surname.str() || !questions_.confirmSurnameChange())
-            return;
-        stored.surname.set(form_.surname);
-        draft_.surname = stored.surname;
-        writeClientRecord(session_.folder, stored.code.str(), stored);
-        const int entry = findCode(session_.index, stored.code.str());
-        if (entry > 0)
-            session_.index.entries[entry].key = stored.surname;
+            return true;
+        ClientRecord renamed = stored;
+        renamed.surname.set(form_.surname);
+        if (!writeClientRecord(context_.folder, renamed.code.str(), renamed))
+            return false;
+        context_.client = renamed;
+        draft_.surname = renamed.surname;
+        return writeIndexKey(renamed);
+    }
+
+    // The index entry's key follows the client's surname; the index in memory
+    // changes only when the file was written.
+    bool writeIndexKey(const ClientRecord& client)
+    {
+        const int entry = findCode(context_.index, client.code.str());
+        if (entry <= 0 || context_.index.entries[entry].key.str() == client.surname.str())
+            return true;
+        ClientIndex updated = context_.index;
+        updated.entries[entry].key = client.surname;
+        if (!writeIndex(context_.folder, updated))
+            return false;
+        context_.index = updated;
+        return true;
     }
 
     // DIALOG 50 for the cat stored in the slot; false when it is cancelled.
     bool askAboutLeavingCat(int slot)
     {
-        const DepartingCat cat = departingCatOf(session_.client, slot);
+        const DepartingCat cat = departingCatOf(context_.client, slot);
         const auto answer = questions_.askWhyCatLeft(cat.name);
         if (!answer)
             return false;
@@ -232,8 +240,8 @@ private:
     bool takeCatRow(int slot)
     {
         const CatRowEntries& row = form_.cats[static_cast<std::size_t>(slot)];
-        const std::string storedName = session_.client.catName[slot].str();
-        const bool storedCat = editing_ && isCatSlotUsed(session_.client, slot);
+        const std::string storedName = context_.client.catName[slot].str();
+        const bool storedCat = editing_ && isCatSlotUsed(context_.client, slot);
 
         if (storedCat && !hasLetterOrDigit(row.name)) {
             if (!askAboutLeavingCat(slot))
@@ -258,7 +266,7 @@ private:
     bool takeBirthYear(int slot, const CatRowEntries& row)
     {
         const int year = leadingInt(row.birthYear);
-        const int now = session_.currentYear;
+        const int now = context_.currentYear;
         if (year != 0 &&
             (year < now - improbableBirthYearSpan || year > now + improbableBirthYearSpan)) {
             const DateWarning warning{std::string(dateWarningTitle), DateBirthSuspicious,
@@ -314,7 +322,7 @@ private:
         // A state of its own, so the arrival and departure the stay checks
         // compare are not disturbed by a vaccination date.
         DateEntryState vaccination{DateKind::LastVaccination, 0, 0};
-        const int code = validateDate(date, false, session_.currentYear, vaccination);
+        const int code = validateDate(date, false, context_.currentYear, vaccination);
         if (code >= DateYearWrong && code <= DateDepartureBeforeArrival) {
             questions_.showDateWarning({std::string(dateWarningTitle), code,
                                         std::string(dateErrorMessage(code)),
@@ -351,17 +359,21 @@ private:
     FormVerdict save()
     {
         if (editing_) {
-            const std::string code = draft_.code.str();
             // The departures first: should the save stop half-way, a cat is
             // listed twice rather than lost.
-            for (const Departure& departure : departures_)
-                moveCatToOtherCats(session_, draft_, departure.cat, departure.answer);
-            writeClientRecord(session_.folder, code, draft_);
-            writeIndex(session_.folder, session_.index);
-            session_.client = draft_;
+            const CivilTime today = context_.clock.toLocal(context_.clock.now());
+            for (const Departure& departure : departures_) {
+                if (!moveCatToOtherCats(context_.folder, context_.ui, today, context_.currentYear,
+                                        draft_, departure.cat, departure.answer))
+                    return FormVerdict::StayOpen;
+            }
+            if (!writeClientRecord(context_.folder, draft_.code.str(), draft_) ||
+                !writeIndexKey(draft_))
+                return FormVerdict::StayOpen;
+            context_.client = draft_;
             return FormVerdict::Accept;
         }
-        switch (addNewClient(session_.folder, session_.index, draft_, session_.draw)) {
+        switch (addNewClient(context_.folder, context_.index, draft_, context_.draw)) {
         case AddClientResult::IndexFull:
             fail(clientListFullMessage());
             return FormVerdict::StayOpen;
@@ -370,14 +382,16 @@ private:
                       form_.surname + ".\nPlease check the client list.",
                   "Client Code Error", MessageIcon::Exclamation});
             return FormVerdict::StayOpen;
+        case AddClientResult::WriteFailed:
+            return FormVerdict::StayOpen; // the file error has been told
         case AddClientResult::Added:
             break;
         }
-        session_.client = draft_;
+        context_.client = draft_;
         return FormVerdict::Accept;
     }
 
-    Session& session_;
+    const ClientFormContext& context_;
     const ClientForm& form_;
     ClientFormQuestions& questions_;
     const bool editing_;
@@ -392,7 +406,7 @@ ClientForm newClientForm()
     return ClientForm{};
 }
 
-ClientForm clientFormFrom(const ClientRecord& client)
+ClientForm clientFormFrom(const ClientRecord& client, const Clock& clock)
 {
     ClientForm form;
     form.mode = ClientFormMode::EditClient;
@@ -403,7 +417,7 @@ ClientForm clientFormFrom(const ClientRecord& client)
         form.address[line] = client.address[line].str();
     form.telephone = client.telephone.str();
     // The record keeps the number with a "::" tail that every reader cuts off.
-    form.mobile = textBefore(client.mobile.str(), mobileTerminator);
+    form.mobile = mobileNumberOf(client);
     form.vet = client.vet.str();
     form.email = client.email.str();
     for (std::size_t line = 0; line < form.notes.size(); ++line) {
@@ -427,10 +441,10 @@ ClientForm clientFormFrom(const ClientRecord& client)
         row.colour = client.catColour[slot].str();
         const int year = client.catBirthYear[slot].get();
         row.birthYear = year != 0 ? std::to_string(year) : std::string();
-        row.sex = sexLetter(client.catSex[slot].get());
+        row.sex = sexEntry(client.catSex[slot].get());
         row.chipInsurance =
             chipInsuranceText(client.catMicrochip[slot].get(), client.catInsurance[slot].get());
-        row.lastVaccination = lastVaccinationText(client.catLastVaccination[slot].get());
+        row.lastVaccination = lastVaccinationEntry(client.catLastVaccination[slot].get(), clock);
     }
     return form;
 }
@@ -452,10 +466,10 @@ std::optional<Message> newClientRefusal(const ClientIndex& index)
     return clientListFullMessage();
 }
 
-FormVerdict acceptClientForm(Session& session, const ClientForm& form,
+FormVerdict acceptClientForm(const ClientForm& form, const ClientFormContext& context,
                              ClientFormQuestions& questions)
 {
-    return ClientFormOk(session, form, questions).run();
+    return ClientFormOk(form, context, questions).run();
 }
 
 } // namespace purrlodge

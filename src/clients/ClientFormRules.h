@@ -4,16 +4,23 @@
 #include <string>
 #include <string_view>
 
-#include "accounts/EstablishmentForm.h"
-#include "app/Ui.h"
 #include "clients/ClientForm.h"
+#include "ports/FormVerdict.h"
+#include "ports/Message.h"
 #include "store/ClientIndex.h"
 #include "store/ClientRecord.h"
 
 namespace purrlodge {
 
 class ClientFormQuestions;
-class Session;
+class Clock;
+class DataFolder;
+class RandomDraw;
+class Ui;
+
+// The characters a client's surname may hold.
+inline constexpr std::string_view permittedNameCharacterSet =
+    "'.abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ -";
 
 // The rules behind Full Client Information (DIALOG 3), opened by Tasks | New
 // Client and Tasks | Edit Client Details.
@@ -41,9 +48,9 @@ inline constexpr std::string_view redNoteMarker = "#R#";
 
 // The form of an existing client, for editing: the mobile number without its
 // "::" tail, red notes ticked and shown without their marker, the used cat
-// slots as rows ("C+I-" for chip and insurance, "mm/yy" for the last
-// vaccination, blanks for what is not known).
-[[nodiscard]] ClientForm clientFormFrom(const ClientRecord& client);
+// slots as rows ("C+I-" for chip and insurance, "mm/yy" of the last
+// vaccination in the clock's local calendar, blanks for what is not known).
+[[nodiscard]] ClientForm clientFormFrom(const ClientRecord& client, const Clock& clock);
 
 // The notes line to store for a typed line and its "Red" box: a ticked line
 // gains "#R# " unless it already carries the marker; an unticked line that
@@ -54,14 +61,28 @@ inline constexpr std::string_view redNoteMarker = "#R#";
 // can ("Client List Full"); nothing when there is room.
 [[nodiscard]] std::optional<Message> newClientRefusal(const ClientIndex& index);
 
+// What the client form's OK works on: the data set, the current client and
+// the ports it needs.
+struct ClientFormContext {
+    const DataFolder& folder;
+    ClientIndex& index;
+    ClientRecord& client; // the current client: replaced when the save goes through
+    RandomDraw& draw;     // makes a new client's code
+    const Clock& clock;
+    Ui& ui;
+    int currentYear = 1970;
+};
+
 // OK of Full Client Information. Checks the entries in the program's fixed
-// order and shows the first failure through session.ports.ui, asking the
-// form's questions part-way; on success the record is saved and becomes the
-// current client (a new one gets its code and index entry first).
+// order and shows the first failure through the Ui port, asking the form's
+// questions part-way; on success the record is saved and becomes the current
+// client (a new one gets its code and index entry, record first).
 //
-// - The current record changes only when the save goes through, so a failed
-//   check or a cancelled form leaves the client as last saved. The one
-//   exception is a confirmed surname change, which is saved at once.
+// - The current record and the index change only when the save goes through,
+//   so a failed check, a failed write or a cancelled form leaves them as the
+//   disc holds them. The one exception is a confirmed surname change, which
+//   is saved at once.
+// - Any failed write keeps the form open with the entries as typed.
 // - A cat whose row was emptied (or that was replaced by a new cat) is asked
 //   about with DIALOG 50 and filed in the other-cats list when the save goes
 //   through, so a cat is never listed as gone while its client still holds it.
@@ -69,7 +90,7 @@ inline constexpr std::string_view redNoteMarker = "#R#";
 //   name can be put back or the question answered at the next OK.
 // - A new client when the index is full is refused before any check, and
 //   nothing is written.
-FormVerdict acceptClientForm(Session& session, const ClientForm& form,
+FormVerdict acceptClientForm(const ClientForm& form, const ClientFormContext& context,
                              ClientFormQuestions& questions);
 
 } // namespace purrlodge

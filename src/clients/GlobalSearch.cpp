@@ -1,6 +1,7 @@
 #include "clients/GlobalSearch.h"
 
 #include "clients/AutoMemo.h"
+#include "store/ClientFields.h"
 #include "store/ClientFiles.h"
 #include "store/ClientRecord.h"
 #include "store/DataFolder.h"
@@ -31,11 +32,6 @@ public:
     }
 
 private:
-    static bool contains(std::string_view field, std::string_view text)
-    {
-        return field.find(text) != std::string_view::npos;
-    }
-
     bool caseSpecific_;
     std::string text_;
 };
@@ -97,7 +93,7 @@ void searchClient(const DataFolder& folder, const ClientRecord& client, const st
         const std::string telephone = client.telephone.str();
         if (matcher.matchesAsStored(telephone))
             out.add(telephone, "TEL");
-        const std::string mobile = textBefore(client.mobile.str(), "::");
+        const std::string mobile = mobileNumberOf(client);
         if (matcher.matchesAsStored(mobile))
             out.add(mobile, "Mob");
     }

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "app/Session.h"
+#include "ports/Ui.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
 #include "store/Dates.h"
@@ -89,17 +89,15 @@ Message movedToOtherCatsMessage(std::string_view catName, std::string_view first
             "Other Cats", MessageIcon::None};
 }
 
-void moveCatToOtherCats(Session& session, const ClientRecord& client, const DepartingCat& cat,
+bool moveCatToOtherCats(const DataFolder& folder, Ui& ui, const CivilTime& today, int currentYear,
+                        const ClientRecord& client, const DepartingCat& cat,
                         const LeavingCatAnswer& answer)
 {
-    const Clock& clock = session.ports.clock;
-    const OtherCatRecord record =
-        otherCatRecordOf(cat, answer, clock.toLocal(clock.now()), session.currentYear);
-    // A failed write has been reported as a file error; saying the cat moved would be untrue.
-    if (!appendOtherCat(session.folder, client.code.str(), record))
-        return;
-    session.ports.ui.showMessage(
-        movedToOtherCatsMessage(cat.name, client.firstName.str(), client.surname.str()));
+    const OtherCatRecord record = otherCatRecordOf(cat, answer, today, currentYear);
+    if (!appendOtherCat(folder, client.code.str(), record))
+        return false;
+    ui.showMessage(movedToOtherCatsMessage(cat.name, client.firstName.str(), client.surname.str()));
+    return true;
 }
 
 } // namespace purrlodge

@@ -3,15 +3,15 @@
 #include <string>
 #include <string_view>
 
-#include "app/Clock.h"
-#include "app/Ui.h"
 #include "clients/OtherCatsFile.h"
+#include "ports/Clock.h"
+#include "ports/Message.h"
 #include "store/ClientRecord.h"
 
 namespace purrlodge {
 
 class DataFolder;
-class Session;
+class Ui;
 
 // The choices under "Reason for Reduction" in Change to Cats noted (DIALOG 50).
 enum class LeavingReason { Lost, Death, NewHome, Other, NotGiven };
@@ -57,15 +57,18 @@ inline constexpr std::size_t leavingCatNotesLength = 79;
 
 // Reads "<code>.XC2" (ten cleared records, sex -1, when it cannot be read),
 // drops the oldest record, puts the newcomer last and writes the file whole.
-bool appendOtherCat(const DataFolder& folder, std::string_view code, const OtherCatRecord& cat);
+[[nodiscard]] bool appendOtherCat(const DataFolder& folder, std::string_view code,
+                                  const OtherCatRecord& cat);
 
 // "%s has been moved to %s %s's 'Other Cats' list", titled "Other Cats".
 [[nodiscard]] Message movedToOtherCatsMessage(std::string_view catName, std::string_view firstName,
                                               std::string_view surname);
 
-// Files a departing cat in the client's other-cats list (dated today by the
-// session's clock) and tells the person where it went.
-void moveCatToOtherCats(Session& session, const ClientRecord& client, const DepartingCat& cat,
-                        const LeavingCatAnswer& answer);
+// Files a departing cat in the client's other-cats list, dated `today`, and
+// tells the person where it went. Returns whether it was filed; a failed
+// write has been told as a file error, and the cat is not said to have moved.
+[[nodiscard]] bool moveCatToOtherCats(const DataFolder& folder, Ui& ui, const CivilTime& today,
+                                      int currentYear, const ClientRecord& client,
+                                      const DepartingCat& cat, const LeavingCatAnswer& answer);
 
 } // namespace purrlodge

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/Clock.h"
-#include "app/Drives.h"
-#include "app/Printer.h"
-#include "app/Profile.h"
-#include "app/Random.h"
-#include "app/Ui.h"
+#include "ports/Clock.h"
+#include "ports/Drives.h"
+#include "ports/Printer.h"
+#include "ports/Profile.h"
+#include "ports/Random.h"
+#include "ports/Ui.h"
 
 namespace purrlodge {
 

@@ -12,7 +12,9 @@ public:
     virtual ~Profile() = default;
 
     [[nodiscard]] virtual std::string read(std::string_view key) const = 0;
-    virtual void write(std::string_view key, std::string_view value) = 0;
+    // Whether the value reached the file. A failure has been told to the
+    // person ("File Error") and the file keeps its old value.
+    [[nodiscard]] virtual bool write(std::string_view key, std::string_view value) = 0;
 };
 
 } // namespace purrlodge

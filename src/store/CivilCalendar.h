@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/Clock.h"
+#include "ports/Clock.h"
 
 namespace purrlodge {
 

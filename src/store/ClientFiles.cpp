@@ -43,13 +43,6 @@ bool writeIndex(const DataFolder& folder, const ClientIndex& index)
     return folder.write(currentIndexFile, index);
 }
 
-void sortIndex(const DataFolder& folder, ClientIndex& index, bool write)
-{
-    sortIndexEntries(index);
-    if (write)
-        writeIndex(folder, index);
-}
-
 bool readPastIndex(const DataFolder& folder, ClientIndex& past)
 {
     const bool opened = folder.read(pastIndexFile, past);
@@ -81,24 +74,21 @@ AddClientResult addNewClient(const DataFolder& folder, ClientIndex& index, Clien
     if (code.empty())
         return AddClientResult::NoCodeFree;
 
-    client.code.set(code);
-    appendEntry(index, client.surname.str(), code);
-    sortIndex(folder, index, true);
-    writeClientRecord(folder, code, client);
-    writeIndex(folder, index);
-    return AddClientResult::Added;
-}
-
-bool saveEditedClient(const DataFolder& folder, ClientIndex& index, const ClientRecord& client)
-{
-    const std::string code = client.code.str();
-    bool saved = writeClientRecord(folder, code, client);
-    const int entry = findCode(index, code);
-    if (entry > 0 && index.entries[entry].key.str() != client.surname.str()) {
-        index.entries[entry].key.set(client.surname.str());
-        saved = writeIndex(folder, index) && saved;
+    ClientRecord record = client;
+    record.code.set(code);
+    if (!writeClientRecord(folder, code, record))
+        return AddClientResult::WriteFailed;
+    ClientIndex updated = index;
+    appendEntry(updated, record.surname.str(), code);
+    sortIndexEntries(updated);
+    if (!writeIndex(folder, updated)) {
+        // No entry names the record: take it away again, so the folder is as it was.
+        folder.remove(clientFileName(code, extension::clientRecord));
+        return AddClientResult::WriteFailed;
     }
-    return saved;
+    index = updated;
+    client = record;
+    return AddClientResult::Added;
 }
 
 std::string codeOfListLine(std::string_view line, const ClientIndex& index)

@@ -30,36 +30,34 @@ inline constexpr std::string_view earlierCats = ".XCT";
 [[nodiscard]] std::string clientFileName(std::string_view code, std::string_view extension);
 
 // Reading always clears the record first: a missing or short file gives empty
-// fields. Each returns whether the file could be opened (or written).
+// fields. Each returns whether the file could be opened (or written; a failed
+// write has been told to the person).
 bool readClientRecord(const DataFolder& folder, std::string_view code, ClientRecord& client);
-bool writeClientRecord(const DataFolder& folder, std::string_view code, const ClientRecord& client);
+[[nodiscard]] bool writeClientRecord(const DataFolder& folder, std::string_view code,
+                                     const ClientRecord& client);
 bool readStayRecord(const DataFolder& folder, std::string_view code, StayRecord& stay);
-bool writeStayRecord(const DataFolder& folder, std::string_view code, const StayRecord& stay);
+[[nodiscard]] bool writeStayRecord(const DataFolder& folder, std::string_view code,
+                                   const StayRecord& stay);
 
 bool readIndex(const DataFolder& folder, ClientIndex& index);
-bool writeIndex(const DataFolder& folder, const ClientIndex& index);
-
-// Sorts the index (entry 0 emptied) and, when asked, writes FIDEX.CTL.
-void sortIndex(const DataFolder& folder, ClientIndex& index, bool write);
+[[nodiscard]] bool writeIndex(const DataFolder& folder, const ClientIndex& index);
 
 // Reads OFIDEX.CTL; a missing file is an empty list, a stored count of -1 is 0.
 bool readPastIndex(const DataFolder& folder, ClientIndex& past);
 // Sorts a past-client index the same way and writes it to OFIDEX.CTL.
-bool sortAndWritePastIndex(const DataFolder& folder, ClientIndex& past);
+[[nodiscard]] bool sortAndWritePastIndex(const DataFolder& folder, ClientIndex& past);
 
-enum class AddClientResult { Added, IndexFull, NoCodeFree };
+enum class AddClientResult { Added, IndexFull, NoCodeFree, WriteFailed };
 
 // Registers a new client whose names are already in the record: makes the
-// code (unique among current and past clients), adds the index entry, sorts
-// and writes the index, writes the client record, then writes the index again.
-// A full index or an exhausted code search writes nothing.
-AddClientResult addNewClient(const DataFolder& folder, ClientIndex& index, ClientRecord& client,
-                             RandomDraw& draw);
-
-// Saves an edited client whose surname may have changed: writes the record and
-// sets the index entry's key to the new surname (the index is written too, so
-// the change is never lost).
-bool saveEditedClient(const DataFolder& folder, ClientIndex& index, const ClientRecord& client);
+// code (unique among current and past clients), writes the client record
+// under it, then the index with the new entry, sorted. The record is written
+// first, so a crash never leaves an entry that names no file. Only when both
+// are written do `index` and `client` (its code) change; a full index, an
+// exhausted code search or a failed write leaves them and the index file as
+// they were.
+[[nodiscard]] AddClientResult addNewClient(const DataFolder& folder, ClientIndex& index,
+                                           ClientRecord& client, RandomDraw& draw);
 
 // The client code of a list line: the line in upper case up to its first tab
 // (the whole line when it has none), spelt as the index spells it so that the

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <system_error>
 
-#include "app/Ui.h"
+#include "ports/Ui.h"
 #include "store/SafeFile.h"
 #include "store/TextHelpers.h"
 #include "store/Windows1252.h"
@@ -49,6 +49,11 @@ bool DataFolder::readBytes(std::string_view name, void* block, std::size_t size)
     if (!file)
         return false;
     file.read(static_cast<char*>(block), static_cast<std::streamsize>(size));
+    if (file.bad()) {
+        // A folder in the file's place opens but cannot be read: nothing was read.
+        std::memset(block, 0, size);
+        return false;
+    }
     return true;
 }
 

@@ -30,21 +30,21 @@ public:
     [[nodiscard]] std::string fileName(std::string_view name) const;
 
     // Clears the block, then reads what the file holds: a missing or short file
-    // leaves zeros. Returns whether the file could be opened.
+    // leaves zeros. Returns whether the file could be opened and read.
     bool readBytes(std::string_view name, void* block, std::size_t size) const;
 
     // Writes the block crash-safely: a temporary file beside the target, flushed
     // and renamed over it. A longer existing file keeps its tail, as writing
     // without truncation would. A failure is told to the person ("File Error")
     // and the old file stays as it was. Returns whether the write succeeded.
-    bool writeBytes(std::string_view name, const void* block, std::size_t size) const;
+    [[nodiscard]] bool writeBytes(std::string_view name, const void* block, std::size_t size) const;
 
     template <class Block> bool read(std::string_view name, Block& block) const
     {
         return readBytes(name, &block, sizeof(Block));
     }
 
-    template <class Block> bool write(std::string_view name, const Block& block) const
+    template <class Block> [[nodiscard]] bool write(std::string_view name, const Block& block) const
     {
         return writeBytes(name, &block, sizeof(Block));
     }

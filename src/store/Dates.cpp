@@ -10,9 +10,6 @@ namespace purrlodge {
 
 namespace {
 
-constexpr std::int64_t secondsPerDay = 86400;
-constexpr std::int64_t secondsPerYear = 365 * secondsPerDay;
-
 std::int64_t floorDiv(std::int64_t value, std::int64_t divisor)
 {
     const std::int64_t quotient = value / divisor;
@@ -159,6 +156,12 @@ std::string longDate(std::int64_t t, const Clock& clock)
     text += ' ';
     text += std::to_string(local.year);
     return text;
+}
+
+std::string monthAndYearText(std::int64_t t, const Clock& clock)
+{
+    const CivilTime local = clock.toLocal(t);
+    return twoDigits(local.month) + '/' + twoDigits(local.year % 100);
 }
 
 std::string timeOfDayText(std::int64_t t, const Clock& clock)

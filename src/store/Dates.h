@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Clock.h"
+#include "ports/Clock.h"
 
 // Dates as the cattery types and stores them: text "dd/mm/yy" in records and
 // dialogs, and seconds since 1 January 1970 (noon UTC of the day) for arithmetic.
@@ -12,6 +12,10 @@
 // Text is Windows-1252 bytes; nothing here depends on the process locale.
 
 namespace purrlodge {
+
+inline constexpr std::int64_t secondsPerDay = 86400;
+// The program's year is always 365 days, for ages and validity periods alike.
+inline constexpr std::int64_t secondsPerYear = 365 * secondsPerDay;
 
 // ---- Reading and converting (Dates.cpp) ----
 
@@ -70,6 +74,10 @@ int countCheckAndNormalise(std::string& text, int expectedSlashes);
 
 // "on Thursday 23th April 2009": the local date of t for backup notes and lists.
 [[nodiscard]] std::string longDate(std::int64_t t, const Clock& clock);
+
+// "mm/yy": the local month and two-figure year of t, as a cat's last
+// vaccination is shown.
+[[nodiscard]] std::string monthAndYearText(std::int64_t t, const Clock& clock);
 
 // "%02d:%02d hrs" of the local time of t.
 [[nodiscard]] std::string timeOfDayText(std::int64_t t, const Clock& clock);

@@ -1,7 +1,7 @@
 #include "store/RandomDraw.h"
 
-#include "app/Clock.h"
-#include "app/Random.h"
+#include "ports/Clock.h"
+#include "ports/Random.h"
 
 namespace purrlodge {
 

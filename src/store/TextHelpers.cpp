@@ -44,6 +44,11 @@ std::string textAfterLast(std::string_view text, std::string_view separator)
                                         : std::string(text.substr(at + separator.size()));
 }
 
+bool contains(std::string_view text, std::string_view part)
+{
+    return text.find(part) != std::string_view::npos;
+}
+
 int substringIndex(std::string_view text, std::string_view part)
 {
     const auto at = text.find(part);

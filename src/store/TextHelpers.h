@@ -23,6 +23,9 @@ inline constexpr std::string_view lettersAndDigits =
 // The text after the last separator, or the whole text when there is none.
 [[nodiscard]] std::string textAfterLast(std::string_view text, std::string_view separator);
 
+// Whether part occurs in text (an empty part always does), cases distinct.
+[[nodiscard]] bool contains(std::string_view text, std::string_view part);
+
 // The 0-based position of part in text, or -1.
 [[nodiscard]] int substringIndex(std::string_view text, std::string_view part);
 

@@ -6,6 +6,7 @@
 
 #include "app/ProfileDrives.h"
 #include "support/FakePorts.h"
+#include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
 
 namespace purrlodge {
@@ -22,53 +23,74 @@ void touch(const fs::path& file)
 
 class DataFolderSetupTest : public ::testing::Test {
 protected:
-    Message confirmation(const std::string& folder) const
+    std::optional<int> change(const std::string& typed)
     {
-        return {"OK, '" + folder + "' is now your active directory. Please restart the program",
-                "Set Default Directory"};
+        return acceptChangeDataSource(typed, fake.profile, fake.ui, asked);
+    }
+    int setUp(const std::string& typed)
+    {
+        return acceptDirectorySetup(typed, fake.profile, fake.ui, asked);
     }
 
     TempFolder temp;
     FakePorts fake;
-    Ports ports = fake.ports();
+    testing::ScriptedSetupQuestions questions;
+    DataFolderQuestions& asked = static_cast<ChangeDataSetQuestions&>(questions);
 };
 
-TEST_F(DataFolderSetupTest, ChainMakerMakesEveryMissingLevelAndSaysWhetherTheFolderIsNew)
+TEST_F(DataFolderSetupTest, DirectorySetupRegistersAFolderWithDataOnlyAfterDirectoryCheck)
 {
-    const std::string twoLevels = temp.path() + "one/two/";
-    EXPECT_EQ(makeFolderChain(twoLevels), 1);
-    EXPECT_TRUE(fs::is_directory(twoLevels));
-    EXPECT_EQ(makeFolderChain(twoLevels), 0);
-    EXPECT_EQ(makeFolderChain(temp.path() + "one/three"), 1); // first level already there
-    touch(temp.path() + "file");
-    EXPECT_EQ(makeFolderChain(temp.path() + "file/sub/"), 0);
+    fake.profile.failWrites = true; // nothing is said until CurrentDir was written
+    EXPECT_EQ(setUp(temp.path() + "cats/data"), 0);
+    EXPECT_TRUE(fake.ui.messages.empty());
+    fake.profile.failWrites = false;
+    const std::string folder = temp.path() + "cats/data/";
+    const Message confirmation{"OK, '" + folder +
+                                   "' is now your active directory. Please restart the program",
+                               "Set Default Directory"};
+    EXPECT_EQ(setUp(temp.path() + "cats/data"), 1);
+    EXPECT_TRUE(fs::is_directory(folder));
+    EXPECT_EQ(fake.profile.read("CurrentDir"), folder);
+    EXPECT_EQ(fake.ui.messages, std::vector<Message>{confirmation});
+
+    // A folder with data is confirmed twice, as it always was, or not at all.
+    touch(folder + "FIDEX.CTL");
+    questions.directoryCheckAnswers = {true, false};
+    EXPECT_EQ(setUp(folder), 1);
+    EXPECT_EQ(fake.ui.messages, std::vector<Message>(3, confirmation));
+    fake.ui.messages.clear();
+    fake.profile.writes.clear();
+    EXPECT_EQ(setUp(folder), 0);
+    EXPECT_EQ(fake.ui.messages, (std::vector<Message>{{"The directory was not registered",
+                                                       "Set Default Directory"}}));
+    EXPECT_TRUE(fake.profile.writes.empty());
 }
 
 TEST_F(DataFolderSetupTest, ChangeDataSourceAsksOnlyAboutExistingFolders)
 {
     // A new folder is made and registered without a question.
-    const std::string folder = temp.path() + "new/data/";
-    EXPECT_EQ(acceptChangeDataSource(ports, temp.path() + "new/data"), 1);
-    EXPECT_TRUE(fs::is_directory(folder));
-    EXPECT_EQ(fake.profile.read("CurrentDir"), folder);
-    EXPECT_EQ(fake.ui.messages, std::vector<Message>{confirmation(folder)});
+    EXPECT_EQ(change(temp.path() + "new/data"), 1);
+    EXPECT_EQ(fake.profile.read("CurrentDir"), temp.path() + "new/data/");
 
     // An existing folder without data is registered whatever New Directory answers.
-    EXPECT_EQ(acceptChangeDataSource(ports, temp.path()), 1);
-    EXPECT_EQ(fake.ui.newDirectoriesAsked, std::vector<std::string>{temp.path()});
+    EXPECT_EQ(change(temp.path()), 1);
+    EXPECT_EQ(questions.newDirectoriesAsked, std::vector<std::string>{temp.path()});
     EXPECT_EQ(fake.profile.read("CurrentDir"), temp.path());
-    EXPECT_FALSE(fs::exists(temp.path() + "FIDEX.CTL"));
 
     // A folder with data needs Yes in Directory Check; No leaves the dialog open.
     touch(temp.path() + "Fidex.ctl"); // a data set from a case-blind file system
-    fake.ui.directoryCheckAnswers = {false, true};
+    questions.directoryCheckAnswers = {false, true};
     fake.ui.messages.clear();
     fake.profile.writes.clear();
-    EXPECT_EQ(acceptChangeDataSource(ports, temp.path()), std::nullopt);
+    EXPECT_EQ(change(temp.path()), std::nullopt);
     EXPECT_TRUE(fake.ui.messages.empty() && fake.profile.writes.empty());
-    EXPECT_EQ(acceptChangeDataSource(ports, temp.path()), 1);
-    EXPECT_EQ(fake.ui.messages, std::vector<Message>{confirmation(temp.path())});
-    EXPECT_EQ(fake.ui.newDirectoriesAsked.size(), 1U);
+    EXPECT_EQ(change(temp.path()), 1);
+    EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Set Default Directory"});
+    EXPECT_EQ(questions.newDirectoriesAsked.size(), 1U);
+
+    // A file in the way: the chain maker makes nothing and says so.
+    touch(temp.path() + "file");
+    EXPECT_EQ(makeFolderChain(temp.path() + "file/sub/"), 0);
 }
 
 TEST_F(DataFolderSetupTest, DeleterClearsFilesAndSubFoldersWhenAskedAndReportsFailures)
@@ -76,26 +98,20 @@ TEST_F(DataFolderSetupTest, DeleterClearsFilesAndSubFoldersWhenAskedAndReportsFa
     const fs::path disc = temp.root() / "disc";
     fs::create_directories(disc / "BACKUP" / "deeper");
     touch(disc / "a.DAT");
-    touch(disc / "BACKUP" / "b.DAT");
     touch(disc / "BACKUP" / "deeper" / "c.DAT");
-
-    deleteFolderContents(fake.ui, disc.string(), false, false);
-    EXPECT_FALSE(fs::exists(disc / "a.DAT"));
-    EXPECT_TRUE(fs::exists(disc / "BACKUP" / "b.DAT"));
-    EXPECT_TRUE(fake.ui.messages.empty());
 
     // Not descending leaves the sub-folder, so the folder cannot go.
     deleteFolderContents(fake.ui, disc.string(), false, true);
-    ASSERT_EQ(fake.ui.messages.size(), 1U);
-    const std::string expected = "error deleting directory: " + disc.string() + "\nError " +
-                                 std::to_string(ENOTEMPTY) + " (ENOTEMPTY) ";
-    EXPECT_EQ(fake.ui.messages[0].text.substr(0, expected.size()), expected);
-    EXPECT_EQ(fake.ui.messages[0].title, "Error");
-
+    EXPECT_FALSE(fs::exists(disc / "a.DAT"));
+    ASSERT_EQ(fake.ui.titles(), std::vector<std::string>{"Error"});
+    EXPECT_EQ(fake.ui.messages[0].text.rfind("error deleting directory: " + disc.string() +
+                                                 "\nError " + std::to_string(ENOTEMPTY) +
+                                                 " (ENOTEMPTY) ",
+                                             0),
+              0u);
     fake.ui.messages.clear();
-    deleteFolderContents(fake.ui, disc.string(), true, true);
-    EXPECT_FALSE(fs::exists(disc));
-    EXPECT_TRUE(fake.ui.messages.empty());
+    deleteFolderContents(fake.ui, disc.string(), true, false);
+    EXPECT_TRUE(fs::is_empty(disc) && fake.ui.messages.empty()) << "every level; the folder kept";
 }
 
 #ifndef _WIN32 // on Windows a letter is its own drive

@@ -23,7 +23,6 @@ TEST(StartupSwitchesTest, OneArgumentMaySetAnySwitchOfTwoOnlyTheSecondAndNeverTe
     EXPECT_EQ(parse({"-FDC"}), none);
     EXPECT_EQ(parse({"-fdc "}), none);
     EXPECT_EQ(parse({"x", "-fdc"}), fdc);
-    EXPECT_EQ(parse({"-fdc", "-fec"}), fec);
     EXPECT_EQ(parse({"-fdc", "x"}), none);
     EXPECT_EQ(parse({"x", "-test"}), none);
     EXPECT_EQ(parse({}), none);

@@ -3,7 +3,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "store/ClientFiles.h"
 #include "store/DataFolder.h"
 #include "store/Dates.h"
 #include "support/FakePorts.h"
@@ -14,43 +13,31 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-struct Cat {
-    std::string name;
-    int sex = 0;
-    int born = 0;
-    std::string colour;
-    std::string breed;
-    int chip = 0;
-    int insurance = 0;
-    std::int32_t vaccinated = 0;
-};
-
 std::int32_t dateNumber(std::string_view ddmmyy)
 {
     return static_cast<std::int32_t>(dateToNumber(ddmmyy));
 }
 
-void putCat(ClientRecord& client, int slot, const Cat& cat)
+void putCat(ClientRecord& client, int slot, std::string_view name, int sex, int born,
+            std::int32_t vaccinated = 0, int chip = 0, int insurance = 0)
 {
-    client.catName[slot].set(cat.name);
-    client.catSex[slot].set(cat.sex);
-    client.catBirthYear[slot].set(cat.born);
-    client.catColour[slot].set(cat.colour);
-    client.catBreed[slot].set(cat.breed);
-    client.catMicrochip[slot].set(cat.chip);
-    client.catInsurance[slot].set(cat.insurance);
-    client.catLastVaccination[slot].set(cat.vaccinated);
+    client.catName[slot].set(name);
+    client.catSex[slot].set(sex);
+    client.catBirthYear[slot].set(born);
+    client.catColour[slot].set("Grey");
+    client.catBreed[slot].set("Moggy");
+    client.catMicrochip[slot].set(chip);
+    client.catInsurance[slot].set(insurance);
+    client.catLastVaccination[slot].set(vaccinated);
 }
 
 class ClientDetailsTest : public ::testing::Test {
 protected:
-    static constexpr int year = 2024;
-
-    // Mrs Anne Smith with three cats and most fields filled.
+    // Mrs Anne Smith with three cats, a gap before the third, and most fields filled.
     static ClientRecord smith()
     {
         ClientRecord client{};
-        client.code.set("SmithAnn");
+        client.code.set("SmithOld"); // the record disagrees with the index
         client.style.set("Mrs");
         client.firstName.set("Anne");
         client.surname.set("Smith");
@@ -61,11 +48,14 @@ protected:
         client.mobile.set("07700 900001::old");
         client.email.set("anne@example.com");
         client.vet.set("Castle Vets");
-        putCat(client, 0, {"Tigger", 1, 2010, "Ginger", "Moggy", 2, 1, dateNumber("01/06/04")});
-        putCat(client, 1, {"Smudge", 0, 0, "Black", "", 0, 0, 0});
-        putCat(client, 2, {"Pig", 3, 2020, "Grey", "Persian", 1, 2, dateNumber("01/12/99")});
+        putCat(client, 0, "Tigger", 1, 2010, dateNumber("01/06/04"), 2, 1);
+        putCat(client, 1, "Smudge", 0, 0);
+        putCat(client, 3, "Pig", 3, 2020, dateNumber("01/12/99"), 1, 2); // after a gap
+        client.catBreed[1].clear();
         client.arrivalDate.set("01/05/24");
         client.departureDate.set("08/05/24");
+        client.lastInDate.set("02/02/23");
+        client.lastOutDate.set("09/02/23");
         client.firstRegistered.set(dateNumber("05/03/09"));
         client.knownRating.set(3);
         client.notes[0].set("#R# Needs tablets");
@@ -83,7 +73,7 @@ protected:
 
     ClientDetailsListing listing(const ClientRecord& client, std::string_view code = "SmithAnn")
     {
-        return clientDetailsListing(folder, client, code, year, fakes.clock);
+        return clientDetailsListing(folder, client, code, 2024, fakes.clock);
     }
 
     testing::TempFolder temp;
@@ -91,159 +81,89 @@ protected:
     DataFolder folder{temp.path(), fakes.ui};
 };
 
-TEST_F(ClientDetailsTest, ThreeCatClientIsListedLineByLine)
+TEST_F(ClientDetailsTest, ACurrentClientIsListedInFullAndAPastOneShortened)
 {
     const ClientDetailsListing shown = listing(smith());
-    const Lines expected{
-        "Mrs Anne Smith",
-        "1 Mill Lane",
-        "Frome",
-        "BA11 1XY\t\tTel: 01632 960001",
-        "\t\tMobile: 07700 900001",
-        " ",
-        "E-mail: anne@example.com",
-        " ",
-        "Vet is - Castle Vets",
-        " ",
-        "Cats:",
-        "Tigger\t[M]\tAge=14\tGinger Moggy\t  Chip+ / Ins-   (Last Vac: 06/04), ",
-        "Smudge\t[f]\t%Age= ??\tBlack \t  Chip? / Ins?   (Last Vac: 01/70), ",
-        "Pig\t[m]\tAge=4\tGrey Persian\t  Chip- / Ins+   (Last Vac: 12/99)",
-        " ",
-        "Most Recent Visit 01/05/24 -> 08/05/24",
-        "Previous Last Visit:  Not Recorded",
-        "First Registered: 05/03/2009    (Known rating = 3)",
-        " ",
-        "Notes:",
-        "#R# Needs tablets",
-        "Shy",
-        " ",
-        "Feeding:",
-        "Likes:\tFish  , Tuna",
-        "Doesn't Like:\tBeef, Milk  ",
-        "OFID = SmithAnn / SmithAnn",
-    };
+    const Lines expected{"Mrs Anne Smith",
+                         "1 Mill Lane",
+                         "Frome",
+                         "BA11 1XY\t\tTel: 01632 960001",
+                         "\t\tMobile: 07700 900001",
+                         " ",
+                         "E-mail: anne@example.com",
+                         " ",
+                         "Vet is - Castle Vets",
+                         " ",
+                         "Cats:",
+                         "Tigger\t[M]\tAge=14\tGrey Moggy\t  Chip+ / Ins-   (Last Vac: 06/04), ",
+                         "Smudge\t[f]\t%Age= ??\tGrey \t  Chip? / Ins?   (Last Vac: 01/70), ",
+                         "Pig\t[m]\tAge=4\tGrey Moggy\t  Chip- / Ins+   (Last Vac: 12/99)",
+                         " ",
+                         "Most Recent Visit 01/05/24 -> 08/05/24",
+                         "Previous Last Visit: 02/02/23 -> 09/02/23",
+                         "First Registered: 05/03/2009    (Known rating = 3)",
+                         " ",
+                         "Notes:",
+                         "#R# Needs tablets",
+                         "Shy",
+                         " ",
+                         "Feeding:",
+                         "Likes:\tFish  , Tuna",
+                         "Doesn't Like:\tBeef, Milk  ",
+                         "OFID = SmithAnn / SmithOld"};
     EXPECT_EQ(shown.lines, expected);
     EXPECT_EQ(shown.caption, "Client's Full Details");
-    EXPECT_FALSE(shown.otherCatsEnabled);
-    EXPECT_FALSE(shown.specialNotesEnabled);
-}
-
-TEST_F(ClientDetailsTest, ClientWithoutCatsOrRegistrationDate)
-{
-    ClientRecord client = smith();
-    for (auto& name : client.catName)
-        name.clear();
-    client.firstRegistered.set(0);
-    client.knownRating.set(7);
-    client.lastInDate.set("02/02/23");
-    client.lastOutDate.set("09/02/23");
-    client.code.set("SmithOld"); // the record disagrees with the index
-
-    const Lines lines = listing(client).lines;
-    const auto cats = std::find(lines.begin(), lines.end(), "Cats:");
-    ASSERT_NE(cats, lines.end());
-    EXPECT_EQ(*(cats + 1), " ");
-    EXPECT_EQ(*(cats + 2), "Most Recent Visit 01/05/24 -> 08/05/24");
-    EXPECT_EQ(*(cats + 3), "Previous Last Visit: 02/02/23 -> 09/02/23");
-    EXPECT_EQ(*(cats + 4), "First Registered:  Not Recorded  (Known rating - 7)");
-    EXPECT_EQ(lines.back(), "OFID = SmithAnn / SmithOld");
-}
-
-TEST_F(ClientDetailsTest, OnlyCatLinesWithAFollowingCatEndInAComma)
-{
-    ClientRecord one = smith();
-    one.catName[1].clear();
-    one.catName[2].clear();
-    const Lines oneCat = listing(one).lines;
-    EXPECT_EQ(oneCat[11], "Tigger\t[M]\tAge=14\tGinger Moggy\t  Chip+ / Ins-   (Last Vac: 06/04)");
-    EXPECT_EQ(oneCat[12], " ");
-
-    ClientRecord six = smith();
-    for (int slot = 0; slot < catSlotCount; ++slot)
-        putCat(six, slot, {"Cat" + std::to_string(slot + 1), 4, 2020, "Grey", "Moggy", 2, 2, 0});
-    const Lines sixCats = listing(six).lines;
-    for (int slot = 0; slot < catSlotCount; ++slot) {
-        const std::string& line = sixCats[11 + static_cast<std::size_t>(slot)];
-        EXPECT_EQ(line.rfind("Cat" + std::to_string(slot + 1) + "\t[f]\tAge=4", 0), 0u) << line;
-        EXPECT_TRUE(line.ends_with(slot < 5 ? "01/70), " : "01/70)")) << line;
-    }
-    EXPECT_EQ(sixCats[17], " ");
-
-    // A record with a gap still joins its cats into one list.
-    ClientRecord gap = smith();
-    gap.catName[1].set(" ");
-    const Lines gapped = listing(gap).lines;
-    EXPECT_TRUE(gapped[11].ends_with("), "));
-    EXPECT_EQ(gapped[12].rfind("Pig\t", 0), 0u);
-}
-
-TEST_F(ClientDetailsTest, OtherCatsAndNoteBookFilesEnableTheirButtons)
-{
-    touch("SmithAnn.XCT");
-    ClientDetailsListing shown = listing(smith());
-    EXPECT_TRUE(shown.otherCatsEnabled);
-    EXPECT_FALSE(shown.specialNotesEnabled);
-    EXPECT_EQ(Lines(shown.lines.end() - 2, shown.lines.end()),
-              (Lines{" ", "                         There are other cats known to  Anne Smith"}));
-
-    std::filesystem::remove(folder.fileName("SmithAnn.XCT"));
-    touch("SmithAnn.XC2");
-    touch("SmithAnn.NTS");
-    shown = listing(smith());
-    EXPECT_TRUE(shown.otherCatsEnabled);
-    EXPECT_TRUE(shown.specialNotesEnabled);
-    EXPECT_EQ(Lines(shown.lines.end() - 4, shown.lines.end()),
-              (Lines{" ", "                         There are other cats known to  Anne Smith", " ",
-                     "                         There are Special Notes for Anne"}));
-
-    // The files are the ones of the code the finder chose.
-    shown = listing(smith(), "Nobody00");
-    EXPECT_FALSE(shown.otherCatsEnabled);
-    EXPECT_FALSE(shown.specialNotesEnabled);
-}
-
-TEST_F(ClientDetailsTest, PastClientListingIsTheShortForm)
-{
-    touch("SmithAnn.NTS"); // never mentioned for a past client
-    const ClientDetailsListing shown =
-        pastClientDetailsListing(smith(), "SmithAnn", year, fakes.clock);
-    EXPECT_EQ(shown.caption, "Detais of Previous Client Mrs Anne Smith");
     EXPECT_FALSE(shown.otherCatsEnabled || shown.specialNotesEnabled);
 
-    // The current listing without its mobile line, with short cat lines and
-    // a two-figure registration year.
-    Lines expected = listing(smith()).lines;
-    expected.erase(expected.begin() + 4);
-    expected[10] = "Tigger\t[M]\tAge=14\tGinger\t(Last Vac: 06/04), ";
-    expected[11] = "Smudge\t[f]\tAge= ??\tBlack\t(Last Vac: 01/70), ";
-    expected[12] = "Pig\t[m]\tAge=4\tGrey\t(Last Vac: 12/99)";
-    ASSERT_EQ(expected[16], "First Registered: 05/03/2009    (Known rating = 3)");
-    expected[16] = "First Registered: 05/03/09    (Known rating = 3)";
-    expected.resize(26); // up to the OFID line, without the note-book lines
-    EXPECT_EQ(shown.lines, expected);
+    // The files the finder's code names enable the look-up buttons.
+    for (const char* file : {"SmithAnn.XCT", "SmithAnn.XC2"}) {
+        touch(file);
+        const ClientDetailsListing withFile = listing(smith());
+        EXPECT_TRUE(withFile.otherCatsEnabled && !withFile.specialNotesEnabled) << file;
+        EXPECT_EQ(withFile.lines.back(),
+                  "                         There are other cats known to  Anne Smith");
+        std::filesystem::remove(folder.fileName(file));
+    }
+    touch("SmithAnn.NTS");
+    const ClientDetailsListing withNotes = listing(smith());
+    EXPECT_TRUE(withNotes.specialNotesEnabled && !withNotes.otherCatsEnabled);
+    EXPECT_EQ(Lines(withNotes.lines.end() - 2, withNotes.lines.end()),
+              (Lines{" ", "                         There are Special Notes for Anne"}));
+
+    // A past client's shorter listing: no mobile line, the colour alone on
+    // each cat line, a two-figure registration year and never a button.
+    ClientRecord past = smith();
+    past.lastInDate.clear();
+    const ClientDetailsListing shortened =
+        pastClientDetailsListing(past, "SmithAnn", 2024, fakes.clock);
+    EXPECT_EQ(shortened.caption, "Detais of Previous Client Mrs Anne Smith");
+    EXPECT_FALSE(shortened.otherCatsEnabled || shortened.specialNotesEnabled);
+    Lines shorter = expected;
+    shorter.erase(shorter.begin() + 4);
+    shorter[10] = "Tigger\t[M]\tAge=14\tGrey\t(Last Vac: 06/04), ";
+    shorter[11] = "Smudge\t[f]\tAge= ??\tGrey\t(Last Vac: 01/70), ";
+    shorter[12] = "Pig\t[m]\tAge=4\tGrey\t(Last Vac: 12/99)";
+    shorter[15] = "Previous Last Visit:  Not Recorded";
+    shorter[16] = "First Registered: 05/03/09    (Known rating = 3)";
+    EXPECT_EQ(shortened.lines, shorter);
+    past.firstRegistered.set(0);
+    EXPECT_EQ(listing(past).lines[17], "First Registered:  Not Recorded  (Known rating - 3)");
 }
 
-TEST_F(ClientDetailsTest, VaccinationCertificateRule)
+TEST_F(ClientDetailsTest, VaccinationCertificatesLastTheYearsSetIn365DayYears)
 {
     const std::int64_t now = 1'718'447'400, day = 86400;
-    const auto status = [&](const ClientRecord& client, std::string_view years) {
-        return vaccinationCertificateStatus(client, years, now);
-    };
     ClientRecord client{};
-    putCat(client, 0,
-           {"Tigger", 1, 2010, "", "", 0, 0, static_cast<std::int32_t>(now - 730 * day)});
-    putCat(client, 3, {"", 1, 2010, "", "", 0, 0, 0}); // an unnamed slot is not examined
-    EXPECT_EQ(status(client, "2"), "Vac Certs OK");
+    putCat(client, 0, "Tigger", 1, 2010, static_cast<std::int32_t>(now - 730 * day));
+    putCat(client, 3, "", 1, 2010); // an unnamed slot is not examined
+    EXPECT_EQ(vaccinationCertificateStatus(client, "2", now), "Vac Certs OK");
 
-    putCat(client, 1, {"Pig", 1, 2010, "", "", 0, 0, static_cast<std::int32_t>(now - 731 * day)});
-    EXPECT_EQ(status(client, "2"), "At least one Vac Cert is more than 2 years old!");
-    // The message shows the text as stored; the period is its leading number.
-    EXPECT_EQ(status(client, "2 yrs"), "At least one Vac Cert is more than 2 yrs years old!");
-    EXPECT_EQ(status(client, "3"), "Vac Certs OK");
-
-    putCat(client, 2, {"Smudge", 1, 2010, "", "", 0, 0, 0}); // never vaccinated: always fails
-    EXPECT_EQ(status(client, "40"), "At least one Vac Cert is more than 40 years old!");
+    putCat(client, 1, "Pig", 1, 2010, static_cast<std::int32_t>(now - 730 * day - 1));
+    EXPECT_EQ(vaccinationCertificateStatus(client, "2 yrs", now),
+              "At least one Vac Cert is more than 2 yrs years old!");
+    putCat(client, 2, "Smudge", 1, 2010); // never vaccinated: always out of date
+    EXPECT_EQ(vaccinationCertificateStatus(client, "40", now),
+              "At least one Vac Cert is more than 40 years old!");
 }
 
 } // namespace

@@ -3,118 +3,103 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "app/Session.h"
-#include "clients/ClientFormQuestions.h"
 #include "store/CivilCalendar.h"
 #include "store/ClientFiles.h"
+#include "store/DataFolder.h"
 #include "store/IndexOperations.h"
+#include "store/RandomDraw.h"
 #include "support/Bytes.h"
 #include "support/FakePorts.h"
+#include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
 
 namespace purrlodge {
 namespace {
 
+namespace fs = std::filesystem;
+using enum FormVerdict;
 using testing::bytesOf;
 using Strings = std::vector<std::string>;
 
-// Answers the form's questions as set and records what was asked.
-struct ScriptedQuestions : ClientFormQuestions {
-    bool confirmSurnameChange() override
-    {
-        ++surnameAlerts;
-        return surnameYes;
-    }
-    bool continueDespiteBirthYear(const DateWarning& warning) override
-    {
-        warnings.push_back(warning);
-        return continueAfterWarning;
-    }
-    void showDateWarning(const DateWarning& warning) override { warnings.push_back(warning); }
-    std::optional<LeavingCatAnswer> askWhyCatLeft(const std::string& catName) override
-    {
-        asked.push_back("left " + catName);
-        return leaving;
-    }
-    CatNameChoice askCatNameChange(const std::string& oldName, const std::string& newName) override
-    {
-        asked.push_back(oldName + ">" + newName);
-        return nameChoice;
-    }
-
-    bool surnameYes = false;
-    int surnameAlerts = 0;
-    bool continueAfterWarning = false;
-    std::optional<LeavingCatAnswer> leaving; // Cancel unless set
-    CatNameChoice nameChoice = CatNameChoice::NameChanged;
-    std::vector<DateWarning> warnings;
-    Strings asked;
-};
+// Noon of the first of the month: how a last vaccination is stored.
+std::int64_t firstOfMonth(int year, int month)
+{
+    return daysFromCivil(year, month, 1) * 86400 + 43200;
+}
 
 class ClientFormRulesTest : public ::testing::Test {
 protected:
-    ClientFormRulesTest()
-    {
-        fakes.clock.setUtc(2009, 6, 15);
-        session.currentYear = 2009;
-    }
+    ClientFormRulesTest() { fakes.clock.setUtc(2009, 6, 15); }
 
-    static ClientForm annSmith(const char* firstName = "Anne", const char* surname = "Smith",
-                               const char* known = "1")
+    static ClientForm annSmith(const char* firstName = "Anne", const char* surname = "Smith")
     {
         ClientForm form = newClientForm();
         form.style = "Mrs";
         form.firstName = firstName;
         form.surname = surname;
-        form.known = known;
+        form.known = "1";
         form.mobile = "07700 900123";
         form.cats[0] = {"Tibbles", "Persian", "Grey", "2001", "f", "C+I-", "6/04"};
         return form;
     }
 
-    // Saves Anne Smith with three cats (the second with a tag) and opens her for editing.
-    ClientForm editedThreeCatClient()
+    FormVerdict ok(const ClientForm& form)
     {
-        ClientForm form = annSmith();
-        form.cats[1] = {"Felix", "Siamese", "Cream", "2003", "M", "", ""};
-        form.cats[2] = {"Sooty", "Moggy", "Black", "2005", "", "c-", ""};
-        form.favouriteFoods = {"Fish", "Chicken", "Cream"};
-        EXPECT_EQ(ok(form), FormVerdict::Accept);
-        session.client.catExtraCode[1].set("X1");
-        writeClientRecord(session.folder, "SmithAnn", session.client);
-        fakes.ui.messages.clear();
-        return clientFormFrom(session.client);
+        return acceptClientForm(form, {folder, index, client, draw, fakes.clock, fakes.ui, 2009},
+                                questions);
     }
-
-    FormVerdict ok(const ClientForm& form) { return acceptClientForm(session, form, questions); }
 
     // Presses OK on a form that must stay open with exactly this message.
     void expectRefusal(const ClientForm& form, const Message& expected)
     {
         fakes.ui.messages.clear();
-        EXPECT_EQ(ok(form), FormVerdict::StayOpen) << expected.text;
+        EXPECT_EQ(ok(form), StayOpen) << expected.text;
         EXPECT_EQ(fakes.ui.messages, std::vector<Message>{expected});
     }
 
-    bool folderIsEmpty() const { return std::filesystem::is_empty(temp.root()); }
-
-    OtherCatRecord lastOtherCat()
+    // Saves Bob Adams, then Anne Smith (index entry 2) with three cats, the
+    // second and third with tags, and opens her for editing.
+    ClientForm editedThreeCatClient()
     {
-        OtherCatsFile others;
-        EXPECT_TRUE(session.folder.read("SmithAnn.XC2", others));
-        return others.cats[9];
+        EXPECT_EQ(ok(annSmith("Bob", "Adams")), Accept);
+        ClientForm form = annSmith();
+        form.cats[1] = {"Felix", "Siamese", "Cream", "2003", "M", "", ""};
+        form.cats[2] = {"Sooty", "Moggy", "Black", "2005", "", "c-", ""};
+        EXPECT_EQ(ok(form), Accept);
+        client.catExtraCode[1].set("X1");
+        client.catExtraCode[2].set("X2");
+        EXPECT_TRUE(writeClientRecord(folder, "SmithAnn", client));
+        return clientFormFrom(client, fakes.clock);
+    }
+
+    // A folder where the file goes makes every write of it fail.
+    void block(const std::string& name)
+    {
+        fs::remove(temp.root() / name);
+        fs::create_directory(temp.root() / name);
+    }
+
+    template <class Block> Block onDisc(std::string_view name) const
+    {
+        Block block;
+        folder.read(name, block);
+        return block;
     }
 
     testing::TempFolder temp;
     testing::FakePorts fakes;
-    Session session{fakes.ports(), temp.path()};
-    ScriptedQuestions questions;
+    DataFolder folder{temp.path(), fakes.ui};
+    ClientIndex index{};
+    ClientRecord client{};
+    RandomDraw draw{fakes.random, fakes.clock};
+    testing::ScriptedClientQuestions questions;
 };
 
-TEST_F(ClientFormRulesTest, NamesAreCheckedInOrderWithTheirOwnMessages)
+TEST_F(ClientFormRulesTest, ChecksRunInTheirOrderEachWithItsMessage)
 {
-    expectRefusal(annSmith("--", "ng", " -"),
-                  {"please enter a value for 'known' eg 1 if not known", "Missing Value"});
+    ClientForm form = annSmith("--", "ng");
+    form.known = " -";
+    expectRefusal(form, {"please enter a value for 'known' eg 1 if not known", "Missing Value"});
     expectRefusal(
         annSmith(" .-", "ng"),
         {"You must provide a First Name!\nIf not known insert 'unknown'", "Missing name"});
@@ -123,211 +108,199 @@ TEST_F(ClientFormRulesTest, NamesAreCheckedInOrderWithTheirOwnMessages)
                   {"Surname must start with an Upper Case letter", "Name error"});
     expectRefusal(annSmith("Anne", "Smith2"), {"The Surname contains an illegal character viz: '2'",
                                                "Illegal Character", MessageIcon::Exclamation});
-    for (const char* known : {"11", "-1"})
-        expectRefusal(annSmith("Anne", "Smith", known),
-                      {"'Known' values must be between 0 and 10", "Known Value Error"});
-    EXPECT_TRUE(folderIsEmpty()) << "a failed check writes nothing";
 
-    for (const char* surname : {"Fox", "O'Neil-Smith", "St. John"})
-        EXPECT_EQ(ok(annSmith("Anne", surname)), FormVerdict::Accept) << surname;
-}
-
-TEST_F(ClientFormRulesTest, CatRowEntriesAreCheckedAndRead)
-{
-    const Message badChip{"The Chipped/Insurance contains an illegal character", "Entry Error",
-                          MessageIcon::Exclamation};
-    const Message badSex{"Illegal character in Sex box", "Entry Error", MessageIcon::Exclamation};
+    // Each cat row is checked before Known, which comes last.
     const std::pair<CatRowEntries, Message> failures[] = {
-        {{"Tom", "", "", "", "", "x", ""}, badChip},
-        {{"Tom", "", "", "", "Mf", "", ""}, badSex},
+        {{"Tom", "", "", "", "", "x", ""},
+         {"The Chipped/Insurance contains an illegal character", "Entry Error",
+          MessageIcon::Exclamation}},
+        {{"Tom", "", "", "", "Mf", "", ""},
+         {"Illegal character in Sex box", "Entry Error", MessageIcon::Exclamation}},
         {{"Tom", "", "", "", "", "", "604"},
          {"Last Vac-Date seems in incorrect format - should be dd/mm, '/' is missing!",
           "Date Error", MessageIcon::Exclamation}},
-        {{"Tom", "", "", "", "", "", "06/2004"},
-         {"Date-year should be just two figures eg:  04", "Date Error"}},
     };
-    ClientForm form = annSmith();
+    form = annSmith();
+    form.known = "11";
     for (const auto& [row, message] : failures) {
         form.cats[1] = row;
         expectRefusal(form, message);
     }
-    fakes.ui.messages.clear();
     form.cats[1] = {"Tom", "", "", "", "", "c+ i-", "13/04"};
-    EXPECT_EQ(ok(form), FormVerdict::StayOpen);
-    EXPECT_TRUE(fakes.ui.messages.empty());
-    const DateWarning noSuchMonth{"Apparent Date Error", 3, "No such month!", "Last Vac Date"};
-    EXPECT_EQ(questions.warnings, std::vector<DateWarning>{noSuchMonth});
-    EXPECT_TRUE(folderIsEmpty());
-
+    EXPECT_EQ(ok(form), StayOpen);
+    EXPECT_EQ(questions.warnings.at(0).message, "No such month!") << "DIALOG 16 tells";
     form.cats[1].lastVaccination = "";
-    form.cats[2] = {"Kit", "", "", "", "m", "", ""};
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
-    const auto firstThree = [](const auto& slots) {
-        return std::vector<int>{slots[0].get(), slots[1].get(), slots[2].get()};
-    };
-    EXPECT_EQ(firstThree(session.client.catMicrochip), (std::vector{2, 2, 0}));
-    EXPECT_EQ(firstThree(session.client.catInsurance), (std::vector{1, 1, 0}));
-    EXPECT_EQ(firstThree(session.client.catSex), (std::vector{4, 0, 3}));
-    EXPECT_EQ(session.client.catLastVaccination[0].get(), daysFromCivil(2004, 6, 1) * 86400 + 43200)
-        << "6/04 is noon of 1 June 2004";
+    expectRefusal(form, {"'Known' values must be between 0 and 10", "Known Value Error"});
+    EXPECT_TRUE(fs::is_empty(temp.root())) << "a failed check writes nothing";
+    for (const char* surname : {"Fox", "O'Neil-Smith", "St. John"})
+        EXPECT_EQ(ok(annSmith("Anne", surname)), Accept) << surname;
 }
 
-TEST_F(ClientFormRulesTest, AnImprobableBirthYearAsksBeforeItIsKept)
+TEST_F(ClientFormRulesTest, KnownVaccinationYearAndBirthYearHoldTheirLimitsOnBothSides)
 {
     ClientForm form = annSmith();
-    for (const char* year : {"0", "", "1984", "2034"}) {
-        form.cats[0].birthYear = year;
-        EXPECT_EQ(ok(form), FormVerdict::Accept) << year;
+    for (const char* known : {"0", "10"}) {
+        form.known = known;
+        ASSERT_EQ(ok(form), Accept) << known;
+        EXPECT_EQ(client.knownRating.get(), leadingInt(known));
     }
-    EXPECT_TRUE(questions.warnings.empty()) << "blank and 25 years either way pass";
+    for (const char* known : {"-1", "11"}) {
+        form.known = known;
+        EXPECT_EQ(ok(form), StayOpen) << known;
+    }
+    form.known = "1";
+    form.cats[0].lastVaccination = "6/99";
+    ASSERT_EQ(ok(form), Accept);
+    EXPECT_EQ(client.catLastVaccination[0].get(), firstOfMonth(1999, 6));
+    form.cats[0].lastVaccination = "6/100";
+    expectRefusal(form, {"Date-year should be just two figures eg:  04", "Date Error"});
 
-    form.cats[0].birthYear = "1983";
-    EXPECT_EQ(ok(form), FormVerdict::StayOpen) << "Cancel abandons the OK";
-    ASSERT_EQ(questions.warnings.size(), 1u);
-    EXPECT_EQ(questions.warnings[0].code, 8);
-    EXPECT_EQ(questions.warnings[0].message, "Date of Birth seems improbable");
-
+    // A year of birth more than 25 years away asks first; Cancel abandons the OK.
+    form.cats[0].lastVaccination = "";
+    const std::pair<const char*, FormVerdict> years[] = {
+        {"", Accept}, {"1984", Accept}, {"2034", Accept}, {"1983", StayOpen}, {"2035", StayOpen}};
+    for (const auto& [year, verdict] : years) {
+        form.cats[0].birthYear = year;
+        EXPECT_EQ(ok(form), verdict) << year;
+    }
+    EXPECT_EQ(questions.warnings.size(), 2u);
     questions.continueAfterWarning = true;
-    EXPECT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(session.client.catBirthYear[0].get(), 1983);
+    EXPECT_EQ(ok(form), Accept);
+    EXPECT_EQ(client.catBirthYear[0].get(), 2035);
 }
 
-TEST_F(ClientFormRulesTest, ANewClientIsCodedIndexedAndWrittenByteForByte)
+TEST_F(ClientFormRulesTest, ANewClientIsSavedWithItsIndexEntryOrNotAtAll)
 {
-    session.client.catName[3].set("Ghost"); // the previous current client
+    client.firstName.set("Previous");
+    for (const std::string blocked : {"SmithAnn.DAT", "FIDEX.CTL"}) {
+        block(blocked);
+        fakes.ui.messages.clear();
+        EXPECT_EQ(ok(annSmith()), StayOpen) << blocked;
+        EXPECT_EQ(fakes.ui.titles(), Strings{"File Error"});
+        EXPECT_FALSE(fs::is_regular_file(temp.root() / "SmithAnn.DAT") ||
+                     fs::is_regular_file(temp.root() / "FIDEX.CTL"));
+        EXPECT_EQ(index.usedCount(), 0);
+        EXPECT_EQ(client.firstName.str(), "Previous");
+        fs::remove(temp.root() / blocked);
+    }
+
+    client.catName[3].set("Ghost");
     ClientForm form = annSmith();
-    form.notes = {"Shy", "Diabetic", "", ""};
-    form.redNote = {false, true, false, false};
     form.lastIn = "01/02/2009 extra";
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
-
-    const ClientRecord& client = session.client;
-    EXPECT_EQ(client.code.str(), "SmithAnn");
+    ASSERT_EQ(ok(form), Accept);
     EXPECT_TRUE(client.catName[3].isEmpty()) << "a new client starts from an empty record";
-    EXPECT_EQ(client.mobile.str(), "07700 900123::");
-    EXPECT_EQ(client.notes[1].str(), "#R# Diabetic");
-    EXPECT_EQ(client.lastInDate.str(), "01/02/2009 e");
-    EXPECT_EQ(client.firstRegistered.get(), daysFromCivil(2009, 6, 15) * 86400 + 43200);
-    ASSERT_EQ(session.index.usedCount(), 1);
-    EXPECT_EQ(session.index.entries[1].key.str(), "Smith");
-    EXPECT_EQ(session.index.entries[1].code.str(), "SmithAnn");
-    EXPECT_EQ(testing::fileBytes(temp.root() / "SmithAnn.DAT"), bytesOf(client));
-    EXPECT_EQ(testing::fileBytes(temp.root() / "FIDEX.CTL"), bytesOf(session.index));
+    EXPECT_EQ(client.mobile.str() + "|" + client.lastInDate.str(), "07700 900123::|01/02/2009 e");
+    EXPECT_EQ(client.firstRegistered.get(), firstOfMonth(2009, 6) + 14 * 86400);
+    EXPECT_EQ(index.entries[1].code.str(), "SmithAnn");
+
+    // A full index refuses before any check.
+    for (int i = 1; i < maxClients; ++i)
+        appendEntry(index, "Someone", "CODE" + std::to_string(i));
+    expectRefusal(annSmith("", ""), newClientRefusal(index).value());
 }
 
-TEST_F(ClientFormRulesTest, AFullIndexRefusesANewClientAndWritesNothing)
+TEST_F(ClientFormRulesTest, AnEditRoundTripsAndAConfirmedSurnameChangeIsSavedAtOnce)
 {
-    for (int i = 0; i < maxClients; ++i)
-        appendEntry(session.index, "Someone", "CODE" + std::to_string(i));
-    expectRefusal(annSmith(), newClientRefusal(session.index).value());
-    EXPECT_EQ(fakes.ui.messages[0].title, "Client List Full");
-    EXPECT_TRUE(folderIsEmpty());
-}
-
-TEST_F(ClientFormRulesTest, EditingRoundTripsAndBlankKnownAndVaccinationClear)
-{
-    EXPECT_EQ(storedNoteLine("Diabetic", true), "#R# Diabetic");
     EXPECT_EQ(storedNoteLine("#R# Diabetic", false), "Diabetic");
-
     ClientForm form = editedThreeCatClient();
     form.notes[0] = "Diabetic";
     form.redNote[0] = true;
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
+    ASSERT_EQ(ok(form), Accept);
 
-    // Opening and saving again changes nothing, the notes and mobile included.
-    const ClientRecord before = session.client;
-    ClientForm reopened = clientFormFrom(session.client);
+    const ClientRecord saved = client;
+    ClientForm reopened = clientFormFrom(client, fakes.clock);
     EXPECT_TRUE(reopened.redNote[0]);
-    EXPECT_EQ(reopened.notes[0], "Diabetic");
-    EXPECT_EQ(reopened.mobile, "07700 900123");
-    EXPECT_EQ(reopened.known, "1");
+    EXPECT_EQ(reopened.notes[0] + "|" + reopened.mobile, "Diabetic|07700 900123");
     EXPECT_EQ(reopened.cats[0],
               (CatRowEntries{"Tibbles", "Persian", "Grey", "2001", "f", "C+I-", "06/04"}));
-    ASSERT_EQ(ok(reopened), FormVerdict::Accept);
-    EXPECT_EQ(bytesOf(session.client), bytesOf(before));
+    ASSERT_EQ(ok(reopened), Accept);
+    EXPECT_EQ(bytesOf(client), bytesOf(saved)) << "opening and saving again changes nothing";
 
     reopened.known = "";
     reopened.cats[0].lastVaccination = "";
-    EXPECT_EQ(ok(reopened), FormVerdict::Accept);
-    EXPECT_EQ(session.client.knownRating.get(), 0);
-    EXPECT_EQ(session.client.catLastVaccination[0].get(), 0);
-}
+    EXPECT_EQ(ok(reopened), Accept);
+    EXPECT_EQ(client.knownRating.get(), 0);
+    EXPECT_EQ(client.catLastVaccination[0].get(), 0);
 
-TEST_F(ClientFormRulesTest, ASurnameChangeIsSavedAtOnceOnlyWhenConfirmed)
-{
-    ClientForm form = editedThreeCatClient();
+    // No keeps the surname and saves the rest.
     form.surname = "Jones";
     form.style = "Dr";
-    EXPECT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(session.client.surname.str(), "Smith") << "No keeps the surname";
-    EXPECT_EQ(session.client.style.str(), "Dr") << "and saves the rest";
+    EXPECT_EQ(ok(form), Accept);
+    EXPECT_EQ(client.surname.str() + " " + client.style.str(), "Smith Dr");
 
+    // A record that cannot be written leaves the current client and its key,
+    // whether the surname change is refused or confirmed.
+    const ClientRecord before = client;
+    block("SmithAnn.DAT");
+    form.style = "Mr";
+    EXPECT_EQ(ok(form), StayOpen);
     questions.surnameYes = true;
+    EXPECT_EQ(ok(form), StayOpen);
+    EXPECT_EQ(fakes.ui.titles(), (Strings{"File Error", "File Error"}));
+    EXPECT_EQ(bytesOf(client), bytesOf(before));
+    EXPECT_EQ(index.entries[2].key.str(), "Smith");
+    fs::remove(temp.root() / "SmithAnn.DAT");
+
     form.known = "11";
-    EXPECT_EQ(ok(form), FormVerdict::StayOpen);
-    ClientRecord onDisc;
-    readClientRecord(session.folder, "SmithAnn", onDisc);
-    EXPECT_EQ(onDisc.surname.str(), "Jones") << "YES writes the record at once";
-    EXPECT_EQ(session.index.entries[1].key.str(), "Jones");
+    EXPECT_EQ(ok(form), StayOpen);
+    EXPECT_EQ(onDisc<ClientRecord>("SmithAnn.DAT").surname.str(), "Jones") << "YES saves at once";
+    EXPECT_EQ(index.entries[2].key.str() + onDisc<ClientIndex>("FIDEX.CTL").entries[2].key.str(),
+              "JonesJones");
 
+    // An index that cannot be written leaves its key behind until the next OK.
+    form.surname = "Brown";
     form.known = "2";
-    EXPECT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.surnameAlerts, 2) << "the stored surname is now Jones";
-    ClientIndex indexOnDisc;
-    readIndex(session.folder, indexOnDisc);
-    EXPECT_EQ(indexOnDisc.entries[1].key.str(), "Jones");
-    EXPECT_EQ(indexOnDisc.entries[1].code.str(), "SmithAnn") << "the code never changes";
+    block("FIDEX.CTL");
+    EXPECT_EQ(ok(form), StayOpen);
+    EXPECT_EQ(onDisc<ClientRecord>("SmithAnn.DAT").surname.str(), "Brown");
+    EXPECT_EQ(index.entries[2].key.str(), "Jones");
+    fs::remove(temp.root() / "FIDEX.CTL");
+    EXPECT_EQ(ok(form), Accept);
+    EXPECT_EQ(questions.surnameAlerts, 5) << "the stored surname is Brown by now";
+    const IndexEntry entry = onDisc<ClientIndex>("FIDEX.CTL").entries[2];
+    EXPECT_EQ(entry.key.str() + " " + entry.code.str(), "Brown SmithAnn") << "the code stays";
 }
 
-TEST_F(ClientFormRulesTest, AnEmptiedRowSendsItsCatToOtherCatsAndPacksTheRest)
-{
-    ClientForm form = editedThreeCatClient();
-    form.cats[1] = {};
-    EXPECT_EQ(ok(form), FormVerdict::StayOpen) << "Cancel on DIALOG 50 abandons the OK";
-    EXPECT_FALSE(session.folder.exists("SmithAnn.XC2"));
-    EXPECT_EQ(session.client.catName[1].str(), "Felix");
-
-    questions.leaving = LeavingCatAnswer{LeavingReason::NewHome, "To her sister"};
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, (Strings{"left Felix", "left Felix"}));
-    EXPECT_EQ(fakes.ui.messages,
-              (std::vector<Message>{
-                  {"Felix has been moved to Anne Smith's 'Other Cats' list", "Other Cats"}}));
-
-    const ClientRecord& client = session.client;
-    EXPECT_EQ(client.catName[1].str(), "Sooty");
-    EXPECT_TRUE(client.catName[2].isEmpty());
-    EXPECT_TRUE(client.catExtraCode[1].isEmpty()) << "Felix's tag left with him";
-    EXPECT_EQ(client.favouriteFoods[0][1].str(), "Chicken") << "foods stay with their slots";
-
-    const OtherCatRecord felix = lastOtherCat();
-    EXPECT_EQ(felix.name.str(), "Felix");
-    EXPECT_EQ(felix.reason.str(), "Rehomed");
-    EXPECT_EQ(felix.history.str(), "Born 2003,   Departed 15/06/09,   age 6");
-}
-
-TEST_F(ClientFormRulesTest, ARenamedRowIsTheSameCatOrANewOne)
+TEST_F(ClientFormRulesTest, ACatLeavingItsRowIsFiledInOtherCatsWhenTheSaveGoesThrough)
 {
     ClientForm form = editedThreeCatClient();
     form.cats[1].name = "felix ";
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
+    ASSERT_EQ(ok(form), Accept);
     EXPECT_TRUE(questions.asked.empty()) << "a change of case is no new name";
-
     form.cats[1].name = "Oscar";
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, Strings{"felix >Oscar"});
-    EXPECT_EQ(session.client.catExtraCode[1].str(), "X1") << "a renamed cat keeps its tag";
-    EXPECT_FALSE(session.folder.exists("SmithAnn.XC2"));
+    ASSERT_EQ(ok(form), Accept);
+    EXPECT_EQ(client.catExtraCode[1].str(), "X1") << "a renamed cat keeps its tag";
+    EXPECT_FALSE(folder.exists("SmithAnn.XC2"));
 
-    questions.asked.clear();
+    // An emptied row: Cancel on DIALOG 50 or a failed filing keeps the cat.
+    form.cats[1] = {};
+    EXPECT_EQ(ok(form), StayOpen);
+    questions.leaving = LeavingCatAnswer{LeavingReason::NewHome, "To her sister"};
+    block("SmithAnn.XC2");
+    EXPECT_EQ(ok(form), StayOpen);
+    EXPECT_EQ(fakes.ui.titles(), Strings{"File Error"});
+    EXPECT_EQ(client.catName[1].str(), "Oscar");
+    fs::remove(temp.root() / "SmithAnn.XC2");
+    ASSERT_EQ(ok(form), Accept);
+    EXPECT_EQ(fakes.ui.messages.back(),
+              (Message{"Oscar has been moved to Anne Smith's 'Other Cats' list", "Other Cats"}));
+    EXPECT_EQ(client.catName[1].str() + client.catExtraCode[1].str(), "SootyX2") << "packed";
+    EXPECT_EQ(bytesOf(onDisc<ClientRecord>("SmithAnn.DAT")), bytesOf(client));
+
+    // A new name said to be a new cat files the old one.
+    form = clientFormFrom(client, fakes.clock);
     form.cats[1] = {"Bella", "Ragdoll", "White", "2009", "F", "", ""};
     questions.nameChoice = CatNameChoice::NewCat;
-    questions.leaving = LeavingCatAnswer{LeavingReason::Death, ""};
-    ASSERT_EQ(ok(form), FormVerdict::Accept);
-    EXPECT_EQ(questions.asked, (Strings{"Oscar>Bella", "left Oscar"}));
-    EXPECT_TRUE(session.client.catExtraCode[1].isEmpty());
-    EXPECT_EQ(lastOtherCat().name.str(), "Oscar");
-    EXPECT_EQ(lastOtherCat().breed.str(), "Siamese") << "the old cat's details, not the new";
+    ASSERT_EQ(ok(form), Accept);
+    EXPECT_EQ(questions.asked, (Strings{"felix >Oscar", "left Oscar", "left Oscar", "left Oscar",
+                                        "Sooty>Bella", "left Sooty"}));
+    EXPECT_TRUE(client.catExtraCode[1].isEmpty());
+    const OtherCatsFile others = onDisc<OtherCatsFile>("SmithAnn.XC2");
+    EXPECT_EQ(others.cats[8].name.str() + ", " + others.cats[8].reason.str() + ", " +
+                  others.cats[8].history.str(),
+              "Oscar, Rehomed, Born 2003,   Departed 15/06/09,   age 6");
+    EXPECT_EQ(others.cats[9].name.str() + " " + others.cats[9].breed.str(), "Sooty Moggy")
+        << "not Bella's breed";
 }
 
 } // namespace

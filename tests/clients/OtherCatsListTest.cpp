@@ -30,92 +30,59 @@ EarlierCatRecord earlierCat(std::string_view name, int sex, std::string_view not
     return cat;
 }
 
-class OtherCatsListTest : public ::testing::Test {
-protected:
-    OtherCatsListTest()
-    {
-        client.firstName.set("Anne");
-        client.surname.set("Smith");
-    }
-
-    void writeFile(std::string_view name, const std::string& bytes)
-    {
-        std::ofstream(folder.fileName(name), std::ios::binary) << bytes;
-    }
-
-    // One former cat with notes and one without, as the client form files them.
-    void fileTwoOtherCats()
-    {
-        appendOtherCat(folder, "SmithAnn",
-                       otherCatRecordOf({"Tibbles", "Moggy", "Tabby", 2, 2001},
-                                        {LeavingReason::NewHome, "Went to her sister"},
-                                        CivilTime{2009, 3, 7}, 2009));
-        appendOtherCat(folder, "SmithAnn",
-                       otherCatRecordOf({"Sooty", "", "Black", 1, 2005}, {LeavingReason::Death, ""},
-                                        CivilTime{2010, 1, 2}, 2010));
-    }
-
+TEST(OtherCatsListTest, EachModeListsItsOwnFileThenTheOtherCats)
+{
     testing::TempFolder temp;
     testing::FakePorts fakes;
     DataFolder folder{temp.path(), fakes.ui};
     ClientRecord client{};
-};
+    client.firstName.set("Anne");
+    client.surname.set("Smith");
+    const auto list = [&](OtherCatsMode mode) {
+        return otherCatsListing(folder, "SmithAnn", client, mode);
+    };
+    EXPECT_TRUE(list(OtherCatsMode::NoteBook).lines.empty() &&
+                list(OtherCatsMode::EarlierSpecialNotes).lines.empty());
 
-TEST_F(OtherCatsListTest, EarlierSpecialNotesThenTheOtherCats)
-{
-    // Two whole records and a torn third one, which is not listed.
-    writeFile("SmithAnn.XCT", bytesOf(earlierCat("Bramble", 4, "Allergic to fleas")) +
-                                  bytesOf(earlierCat("Max", 1, " -- ")) + std::string(100, 'x'));
-    fileTwoOtherCats();
-
-    const OtherCatsListing listing =
-        otherCatsListing(folder, "SmithAnn", client, OtherCatsMode::EarlierSpecialNotes);
-    const Lines expected{
-        "Bramble, Persian, Grey, f, DOB = 1998, Notified (Insurer) = 50",
-        "Allergic to fleas",
-        " ",
-        "Max, Persian, Grey, M, DOB = 1998, Notified (Insurer) = 50",
-        " ",
+    // Two whole earlier records and a torn third one, which is not listed; a
+    // note-book line of 500 characters, one of 501 and a blank one.
+    std::ofstream(folder.fileName("SmithAnn.XCT"), std::ios::binary)
+        << bytesOf(earlierCat("Bramble", 4, "Allergic to fleas")) +
+               bytesOf(earlierCat("Max", 2, " -- ")) + std::string(100, 'x');
+    std::ofstream(folder.fileName("SmithAnn.NTS"), std::ios::binary)
+        << "Needs a quiet pen\r\n" + std::string(500, 'a') + "\r\n\r\n" + std::string(501, 'b');
+    // One former cat with notes and one without, as the client form files them.
+    EXPECT_TRUE(appendOtherCat(folder, "SmithAnn",
+                               otherCatRecordOf({"Tibbles", "Moggy", "Tabby", 2, 2001},
+                                                {LeavingReason::NewHome, "Went to her sister"},
+                                                CivilTime{2009, 3, 7}, 2009)));
+    EXPECT_TRUE(
+        appendOtherCat(folder, "SmithAnn",
+                       otherCatRecordOf({"Sooty", "", "Black", 1, 2005}, {LeavingReason::Death, ""},
+                                        CivilTime{2010, 1, 2}, 2010)));
+    const Lines otherCats{
         "Tibbles  Moggy  Tabby Rehomed:    Born 2001,   Departed 07/03/09,   age 8",
         "     Went to her sister",
         "Sooty    Black :    Born 2005,   Departed 02/01/10,   age 5",
     };
-    EXPECT_EQ(listing.lines, expected);
-    EXPECT_EQ(listing.heading, "\nSummary of previous cats belonging to Anne Smith");
-}
 
-TEST(OtherCatsList, EarlierCatsKeepTheirOwnSexCoding)
-{
-    std::string letters;
-    for (int sex = 0; sex <= 4; ++sex)
-        letters += earlierCatSexLetter(sex);
-    EXPECT_EQ(letters, "MMmFf");
-}
+    const OtherCatsListing earlier = list(OtherCatsMode::EarlierSpecialNotes);
+    EXPECT_EQ(earlier.heading, "\nSummary of previous cats belonging to Anne Smith");
+    Lines expected{
+        "Bramble, Persian, Grey, f, DOB = 1998, Notified (Insurer) = 50",
+        "Allergic to fleas",
+        " ",
+        "Max, Persian, Grey, m, DOB = 1998, Notified (Insurer) = 50", // the file's own sex coding
+        " ",
+    };
+    expected.insert(expected.end(), otherCats.begin(), otherCats.end());
+    EXPECT_EQ(earlier.lines, expected);
 
-TEST_F(OtherCatsListTest, NoteBookListsItsNonEmptyLinesThenTheOtherCats)
-{
-    const std::string longLine(1200, 'n');
-    writeFile("SmithAnn.NTS", "Needs a quiet pen\r\n\r\nNo fish\r\n" + longLine + "\r\n");
-    fileTwoOtherCats();
-
-    const OtherCatsListing listing =
-        otherCatsListing(folder, "SmithAnn", client, OtherCatsMode::NoteBook);
-    EXPECT_EQ(listing.heading, "Special Notes for:  Anne Smith");
-    ASSERT_EQ(listing.lines.size(), 8u);
-    EXPECT_EQ(listing.lines[0], "Needs a quiet pen");
-    EXPECT_EQ(listing.lines[1], "No fish");
-    EXPECT_EQ(listing.lines[2], std::string(500, 'n'));
-    EXPECT_EQ(listing.lines[4], std::string(200, 'n'));
-    EXPECT_EQ(listing.lines[5].substr(0, 7), "Tibbles");
-}
-
-TEST_F(OtherCatsListTest, MissingFilesListNothing)
-{
-    EXPECT_TRUE(otherCatsListing(folder, "SmithAnn", client, OtherCatsMode::EarlierSpecialNotes)
-                    .lines.empty());
-    EXPECT_TRUE(
-        otherCatsListing(folder, "SmithAnn", client, OtherCatsMode::NoteBook).lines.empty());
-    EXPECT_TRUE(fakes.ui.messages.empty());
+    const OtherCatsListing noteBook = list(OtherCatsMode::NoteBook);
+    EXPECT_EQ(noteBook.heading, "Special Notes for:  Anne Smith");
+    expected = {"Needs a quiet pen", std::string(500, 'a'), std::string(500, 'b'), "b"};
+    expected.insert(expected.end(), otherCats.begin(), otherCats.end());
+    EXPECT_EQ(noteBook.lines, expected);
 }
 
 } // namespace

@@ -6,12 +6,17 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStringList>
+#include <QTest>
 #include <QTimer>
 
 namespace purrlodge::testing {
@@ -36,14 +41,13 @@ public:
         timeLimit_.start(timeLimitMs);
     }
 
-    // Whether every answer was used and nothing else came up.
-    [[nodiscard]] bool allAnswered() const
+    // The titles of the modal windows seen, in order, joined by "|"; followed
+    // by "|?" unless every answer was used and nothing else came up.
+    [[nodiscard]] QString seen() const
     {
-        return answers_.empty() && !timedOut_ && !unexpected_;
+        const bool allAnswered = answers_.empty() && !timedOut_ && !unexpected_;
+        return titles_.join(u'|') + (allAnswered ? QString() : QStringLiteral("|?"));
     }
-
-    // The titles of the modal windows seen, in order.
-    [[nodiscard]] const QStringList& titles() const { return titles_; }
 
 private:
     void pollOnce()
@@ -109,6 +113,44 @@ inline QAbstractButton* standardButton(QWidget* modal, QDialogButtonBox::Standar
 inline ModalAnswers::Answer press(QDialogButtonBox::StandardButton which)
 {
     return [which](QWidget* modal) { clickLater(standardButton(modal, which)); };
+}
+
+// A dialog's widget by its object name; a missing one ends the test run at
+// once, naming what was looked for.
+template <class Widget> Widget* child(QWidget* dialog, const QString& name)
+{
+    auto* found = dialog->findChild<Widget*>(name);
+    if (found == nullptr)
+        qFatal("no widget named %s in %s", qPrintable(name), qPrintable(dialog->objectName()));
+    return found;
+}
+
+inline QLineEdit* edit(QWidget* dialog, const QString& name)
+{
+    return child<QLineEdit>(dialog, name);
+}
+
+// Types into a box as a person does, over whatever it held.
+inline void retype(QWidget* dialog, const QString& name, const QString& text)
+{
+    QLineEdit* box = edit(dialog, name);
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QTest::keyClicks(box, text);
+}
+
+inline void pressOk(QWidget* dialog)
+{
+    clickLater(standardButton(dialog, QDialogButtonBox::Ok));
+}
+
+// Types the name into the finder's "Client Index" and presses Enter, which is OK.
+inline ModalAnswers::Answer typeName(const QString& name)
+{
+    return [name](QWidget* dialog) {
+        retype(dialog, QStringLiteral("nameEdit"), name);
+        QTest::keyClick(edit(dialog, QStringLiteral("nameEdit")), Qt::Key_Return);
+    };
 }
 
 } // namespace purrlodge::testing

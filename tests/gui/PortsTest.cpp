@@ -1,11 +1,7 @@
-#include <QDateTime>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-
 #include "gui/ModalAnswers.h"
+#include "gui/Text1252.h"
+#include "gui/app/QtSetupQuestions.h"
 #include "gui/ports/QtUi.h"
-#include "gui/ports/SystemClock.h"
 
 using namespace purrlodge;
 using namespace purrlodge::testing;
@@ -15,78 +11,60 @@ class PortsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void systemClockReadsTheLocalCalendar()
+    void text1252KeepsEveryByteAndMarksWhatItCannotHold()
     {
-        qputenv("TZ", "UTC");
-        const SystemClock clock;
-        QCOMPARE(clock.toLocal(1'699'747'200), (CivilTime{2023, 11, 12, 0, 0, 0, 0})); // a Sunday
-        QCOMPARE(clock.toLocal(1'700'000'000), (CivilTime{2023, 11, 14, 22, 13, 20, 2}));
-        qputenv("TZ", "CET-1"); // one hour east of UTC, without the zone database
-        QCOMPARE(clock.toLocal(1'700'000'000).hour, 23);
-        QVERIFY(qAbs(clock.now() - QDateTime::currentSecsSinceEpoch()) <= 1);
+        std::string all;
+        for (int byte = 0; byte < 256; ++byte)
+            all.push_back(static_cast<char>(byte));
+        QCOMPARE(toWindows1252(fromWindows1252(all)), all);
+        QCOMPARE(fromWindows1252("\x80\x97\xA3\xE9"), u"€—£é"_s);
+        QCOMPARE(toWindows1252(u"Ω cat 🐈 ok"_s), std::string("? cat ? ok"));
+        // A control character that 1252 spends on a printable one is not a round trip.
+        QCOMPARE(toWindows1252(QString(QChar(0x80))), std::string("?"));
     }
 
     void messageBoxShowsTitleTextAndIcon()
     {
         QtUi ui;
-        QMessageBox::Icon icon = QMessageBox::NoIcon;
-        QString text;
-        Qt::TextFormat format = Qt::AutoText;
-        ModalAnswers answers({[&](QWidget* modal) {
+        ModalAnswers answers({[](QWidget* modal) {
             auto* box = qobject_cast<QMessageBox*>(modal);
-            icon = box->icon();
-            text = box->text();
-            format = box->textFormat();
-            clickLater(box->button(QMessageBox::Ok));
+            QCOMPARE(box->icon(), QMessageBox::Warning);
+            QCOMPARE(box->text(), u"Rate <b>£5</b>"_s);
+            QCOMPARE(box->textFormat(), Qt::PlainText); // the program's texts are shown as they are
+            pressOk(box);
         }});
         ui.showMessage({"Rate <b>\xA3"
                         "5</b>",
                         "No Rates Set", MessageIcon::Exclamation});
-
-        QVERIFY(answers.allAnswered());
-        QCOMPARE(answers.titles(), QStringList{u"No Rates Set"_s});
-        QCOMPARE(icon, QMessageBox::Warning);
-        QCOMPARE(text, u"Rate <b>£5</b>"_s);
-        QCOMPARE(format, Qt::PlainText); // the program's texts are shown as they are
+        QCOMPARE(answers.seen(), u"No Rates Set"_s);
     }
 
-    void directorySetupOffersTheSuggestionAndHandsBackTheEntry()
+    void dataFolderQuestionsShowTheirFolderAndHandBackTheAnswer()
     {
-        QtUi ui;
+        QtSetupQuestions questions;
         ModalAnswers answers({
             [](QWidget* dialog) {
-                auto* folder = dialog->findChild<QLineEdit*>(u"folderEdit"_s);
-                QCOMPARE(folder->text(), u"/home/me/Caf\u00e9/"_s);
-                QCOMPARE(folder->maxLength(), 80);
-                folder->setText(u"/srv/cattery"_s);
-                clickLater(standardButton(dialog, QDialogButtonBox::Ok));
+                QCOMPARE(edit(dialog, u"folderEdit"_s)->text(), u"/home/me/Café/"_s);
+                QCOMPARE(edit(dialog, u"folderEdit"_s)->maxLength(), 80);
+                retype(dialog, u"folderEdit"_s, u"/srv/cattery"_s);
+                pressOk(dialog);
             },
             press(QDialogButtonBox::Cancel),
-        });
-        QCOMPARE(ui.askDirectorySetup("/home/me/Caf\xE9/"),
-                 std::optional<std::string>("/srv/cattery"));
-        QCOMPARE(ui.askDirectorySetup("/x/"), std::nullopt);
-        QVERIFY(answers.allAnswered());
-        QCOMPARE(answers.titles(), QStringList({u"Directory Setup"_s, u"Directory Setup"_s}));
-    }
-
-    void directoryQuestionsAnswerYesOrNo()
-    {
-        QtUi ui;
-        ModalAnswers answers({
             press(QDialogButtonBox::Help),
-            press(QDialogButtonBox::Ok), // the help text
+            pressOk, // the help text
             press(QDialogButtonBox::Yes),
             [](QWidget* dialog) {
-                QVERIFY(dialog->findChild<QLabel*>(u"folderLabel"_s)->text() == u"/srv/new/"_s);
-                clickLater(standardButton(dialog, QDialogButtonBox::No));
+                QCOMPARE(child<QLabel>(dialog, u"folderLabel"_s)->text(), u"/srv/new/"_s);
+                press(QDialogButtonBox::No)(dialog);
             },
         });
-        QVERIFY(ui.askDirectoryCheck());
-        QVERIFY(!ui.askNewDirectory("/srv/new/"));
-        QVERIFY(answers.allAnswered());
-        QCOMPARE(answers.titles(), QStringList({u"Directory Check"_s, u"Directory Check"_s,
-                                                u"Directory Check"_s, u"New Directory"_s}));
+        QCOMPARE(questions.askDirectorySetup("/home/me/Caf\xE9/"),
+                 std::optional<std::string>("/srv/cattery"));
+        QCOMPARE(questions.askDirectorySetup("/x/"), std::nullopt);
+        QVERIFY(questions.askDirectoryCheck());
+        QVERIFY(!questions.askNewDirectory("/srv/new/"));
+        QCOMPARE(answers.seen(), u"Directory Setup|Directory Setup|Directory Check|"
+                                 u"Directory Check|Directory Check|New Directory"_s);
     }
 };
 

@@ -4,9 +4,12 @@
 
 #include <QTemporaryDir>
 
+#include "app/CommandIds.h"
 #include "app/Session.h"
+#include "gui/ModalAnswers.h"
 #include "gui/app/TMyWindow.h"
 #include "gui/ports/QtUi.h"
+#include "store/ClientFiles.h"
 #include "support/FakePorts.h"
 
 namespace purrlodge::testing {
@@ -31,6 +34,21 @@ struct ShellFixture {
 
     // Runs a command as its first menu item or tool-bar button would.
     void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
+
+    // A client of Ann's with the given surname and cats, saved as New Client saves one.
+    ClientRecord addClient(const std::string& surname, std::initializer_list<const char*> cats)
+    {
+        ClientRecord client{};
+        client.surname.set(surname);
+        client.firstName.set("Ann");
+        int slot = 0;
+        for (const char* cat : cats)
+            client.catName[slot++].set(cat);
+        if (addNewClient(session.folder, session.index, client, session.draw) !=
+            AddClientResult::Added)
+            qFatal("%s could not be added", surname.c_str());
+        return client;
+    }
 };
 
 } // namespace purrlodge::testing

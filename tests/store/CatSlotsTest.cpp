@@ -1,51 +1,41 @@
 #include "store/CatSlots.h"
 
 #include <gtest/gtest.h>
+#include <string>
+
+#include "support/Bytes.h"
 
 namespace purrlodge {
 namespace {
 
-ClientRecord withCats(const char* const (&names)[6])
+// Fills every field of a cat slot with values that tell the cat apart.
+void giveCat(ClientRecord& client, int slot, int cat)
+{
+    const std::string name = "Cat" + std::to_string(cat);
+    client.catName[slot].set(name);
+    client.catBreed[slot].set(name);
+    client.catColour[slot].set(name);
+    client.catExtraCode[slot].set(name);
+    for (auto* number :
+         {&client.catBirthYear[slot], &client.catSex[slot], &client.catMicrochip[slot],
+          &client.catLastVaccination[slot], &client.catInsurance[slot]})
+        number->set(cat);
+}
+
+TEST(CompactCats, ClosesGapsMovingEveryFieldAndLeavesTheFoodsWithTheirSlots)
 {
     ClientRecord client{};
-    for (int s = 0; s < 6; ++s) {
-        client.catName[s].set(names[s]);
-        client.catBreed[s].set(std::string("breed ") + names[s]);
-        client.catBirthYear[s].set(2000 + s);
-        client.catSex[s].set(s % 5);
-        client.favouriteFoods[s][0].set("food " + std::to_string(s));
-        client.forbiddenFoods[s][2].set("never " + std::to_string(s));
-    }
-    return client;
-}
-
-TEST(CompactCats, ClosesGapsAndLeavesFoodsWithTheirSlots)
-{
-    auto client = withCats({"A", "", "B", "", "", "C"});
+    client.favouriteFoods[3][0].set("Tuna"); // the slot of a cat that moves
+    client.forbiddenFoods[5][2].set("Milk");
+    ClientRecord expected = client;
+    giveCat(client, 0, 1);
+    client.catName[1].set("--"); // no letter or digit: an empty slot
+    giveCat(client, 3, 2);
+    giveCat(client, 5, 3);
+    for (int cat = 1; cat <= 3; ++cat)
+        giveCat(expected, cat - 1, cat);
     compactCats(client);
-    const char* expected[] = {"A", "B", "C", "", "", ""};
-    for (int s = 0; s < 6; ++s) {
-        EXPECT_EQ(client.catName[s].str(), expected[s]) << s;
-        EXPECT_EQ(client.favouriteFoods[s][0].str(), "food " + std::to_string(s)) << s;
-        EXPECT_EQ(client.forbiddenFoods[s][2].str(), "never " + std::to_string(s)) << s;
-    }
-    EXPECT_EQ(client.catBreed[1].str(), "breed B");
-    EXPECT_EQ(client.catBirthYear[2].get(), 2005);
-    EXPECT_EQ(client.catSex[2].get(), 0);
-    EXPECT_EQ(client.catBirthYear[5].get(), 0) << "a vacated slot is emptied";
-    EXPECT_TRUE(client.catBreed[5].isEmpty());
-}
-
-TEST(CompactCats, FullAndNameWithoutLetterSlots)
-{
-    auto full = withCats({"A", "B", "C", "D", "E", "F"});
-    compactCats(full);
-    EXPECT_EQ(full.catName[5].str(), "F") << "six cats stay six cats";
-
-    auto dashes = withCats({"--", "Tom", "", "", "", ""});
-    compactCats(dashes);
-    EXPECT_EQ(dashes.catName[0].str(), "Tom") << "a name with no letter or digit is an empty slot";
-    EXPECT_TRUE(dashes.catName[1].isEmpty());
+    EXPECT_EQ(testing::bytesOf(client), testing::bytesOf(expected));
 }
 
 } // namespace

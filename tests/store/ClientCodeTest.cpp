@@ -5,74 +5,58 @@
 #include <string>
 
 #include "store/RandomDraw.h"
-#include "store/TextHelpers.h"
 #include "support/FakePorts.h"
 
 namespace purrlodge {
 namespace {
 
-using testing::FakeClock;
-using testing::FakeRandom;
-
-bool never(std::string_view)
+TEST(RandomDraw, SeedsWithTheTimeThenWithEachResultAndCoversBothEnds)
 {
-    return false;
+    testing::FakeClock clock(123456);
+    testing::FakeRandom random({17, 0, 9, 10, 25, 32767});
+    RandomDraw draw(random, clock);
+    std::vector<int> drawn;
+    for (int n : {9, 9, 9, 9, 25, 25})
+        drawn.push_back(draw.upTo(n));
+    EXPECT_EQ(drawn, (std::vector<int>{7, 0, 9, 0, 25, 7})) << "n itself can be drawn";
+    EXPECT_EQ(random.seeds, (std::vector<std::uint32_t>{123456, 7, 0, 9, 0, 25}));
 }
 
-TEST(ClientCode, IsBuiltFromTheNames)
+class ClientCodeTest : public ::testing::Test {
+protected:
+    std::string make(std::string_view surname, std::string_view firstName,
+                     const std::set<std::string>& taken = {})
+    {
+        return makeClientCode(surname, firstName, draw, [&](std::string_view code) {
+            return taken.count(std::string(code)) > 0;
+        });
+    }
+
+    testing::FakeClock clock;
+    testing::FakeRandom random{{3}};
+    RandomDraw draw{random, clock};
+};
+
+TEST_F(ClientCodeTest, IsBuiltFromTheNamesAndDrawsReachBothEndsOfTheirRanges)
 {
-    FakeClock clock(1000);
-    FakeRandom random({3});
-    RandomDraw draw(random, clock);
-    EXPECT_EQ(makeClientCode("Smith", "Anne", draw, never), "SmithAnn");
-    EXPECT_EQ(makeClientCode("Lee", "Jo", draw, never), "LeeJo333");
-    EXPECT_EQ(makeClientCode("Blenkinsop", "Al", draw, never), "BlenkAl3");
-    EXPECT_EQ(makeClientCode("", "", draw, never), "33333333");
-    EXPECT_EQ(makeClientCode("O/Ha*", "A:B", draw, never), "O_Ha_A_B")
-        << "no name may leave the folder";
+    EXPECT_EQ(make("Smith", "Anne"), "SmithAnn");
+    EXPECT_EQ(make("Blenkinsop", "Al"), "BlenkAl3");
+    EXPECT_EQ(make("", ""), "33333333");
+    EXPECT_EQ(make("O/Ha*", "A:B"), "O_Ha_A_B") << "no name may leave the folder";
+    // Digits 0 and 9 in turn; then the letters Z and A (taken too), then A and Z.
+    random.values = {0, 9, 0, 9, 0, 9, 0, 9, 25, 0, 0, 25};
+    EXPECT_EQ(make("Lee", "Jo", {"LeeJo090", "LeeJo0ZA"}), "LeeJo0AZ");
 }
 
-TEST(RandomDraw, SeedsWithTheTimeThenWithEachResult)
+TEST_F(ClientCodeTest, RepeatingDrawsFallBackToWalkingThePairs)
 {
-    FakeClock clock(123456);
-    FakeRandom random({17, 5, 30});
-    RandomDraw draw(random, clock);
-    EXPECT_EQ(draw.upTo(9), 7);
-    EXPECT_EQ(draw.upTo(9), 5);
-    EXPECT_EQ(draw.upTo(25), 4);
-    EXPECT_EQ(random.seeds, (std::vector<std::uint32_t>{123456, 7, 5}));
-}
-
-TEST(ClientCode, CollisionChangesOnlyTheLastTwoCharacters)
-{
-    FakeClock clock;
-    // Eight digits, then the letters B,C (taken, ignoring case), then D,E.
-    FakeRandom random({0, 0, 0, 0, 0, 0, 0, 0, 1, 2, 3, 4});
-    RandomDraw draw(random, clock);
-    const auto code = makeClientCode("Smith", "Anne", draw, [](std::string_view candidate) {
-        return equalsIgnoringCase(candidate, "SMITHANN") ||
-               equalsIgnoringCase(candidate, "smithaBC");
-    });
-    EXPECT_EQ(code, "SmithADE");
-}
-
-TEST(ClientCode, RepeatingDrawsFallBackToWalkingThePairs)
-{
-    FakeClock clock;
-    FakeRandom random({0}); // every draw gives 0: the pair AA again and again
-    RandomDraw draw(random, clock);
-    std::set<std::string> taken{"SmithAnn", "SmithAAA", "SmithAAB"};
-    const auto code = makeClientCode(
-        "Smith", "Anne", draw, [&](std::string_view c) { return taken.count(std::string(c)) > 0; });
-    EXPECT_EQ(code, "SmithAAC");
-
-    int asked = 0;
-    const auto none = makeClientCode("Smith", "Anne", draw, [&](std::string_view) {
-        ++asked;
-        return true;
-    });
-    EXPECT_EQ(none, "") << "every pair taken ends the search";
-    EXPECT_LT(asked, 1000);
+    random.values = {0}; // every draw gives 0: the pair AA again and again
+    EXPECT_EQ(make("Smith", "Anne", {"SmithAnn", "SmithAAA", "SmithAAB"}), "SmithAAC");
+    std::set<std::string> all{"SmithAnn"};
+    for (char a = 'A'; a <= 'Z'; ++a)
+        for (char b = 'A'; b <= 'Z'; ++b)
+            all.insert(std::string("Smith") + 'A' + a + b);
+    EXPECT_EQ(make("Smith", "Anne", all), "") << "every pair taken ends the search";
 }
 
 } // namespace

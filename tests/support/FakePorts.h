@@ -1,55 +1,22 @@
 #pragma once
 
-#include <algorithm>
-#include <cctype>
 #include <cstdint>
 #include <deque>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "app/Ports.h"
+#include "ports/Ports.h"
 #include "store/CivilCalendar.h"
 #include "store/TextHelpers.h"
 
 namespace purrlodge::testing {
 
-// Records every message shown, in order, and answers each dialog from a
-// script; an unscripted dialog is cancelled (or answered No).
-class FakeUi : public Ui {
-public:
+// Records every message shown, in order.
+struct FakeUi : Ui {
     void showMessage(const Message& message) override { messages.push_back(message); }
-
-    std::optional<std::string> askDirectorySetup(const std::string& suggestion) override
-    {
-        directorySetupSuggestions.push_back(suggestion);
-        return take(directorySetupAnswers, std::optional<std::string>());
-    }
-    bool askDirectoryCheck() override
-    {
-        ++directoryChecksAsked;
-        return take(directoryCheckAnswers, false);
-    }
-    bool askNewDirectory(const std::string& folder) override
-    {
-        newDirectoriesAsked.push_back(folder);
-        return take(newDirectoryAnswers, false);
-    }
-    std::optional<FormVerdict> runEstablishmentDetails(
-        const EstablishmentForm& initial, const std::string& dataFolder,
-        const std::function<FormVerdict(const EstablishmentForm&)>& accept) override
-    {
-        establishmentDialogs.push_back({initial, dataFolder});
-        while (!establishmentEntries.empty()) {
-            const EstablishmentForm form = establishmentEntries.front();
-            establishmentEntries.pop_front();
-            const FormVerdict verdict = accept(form);
-            if (verdict != FormVerdict::StayOpen)
-                return verdict;
-        }
-        return std::nullopt;
-    }
 
     // Titles of the messages shown, in order.
     [[nodiscard]] std::vector<std::string> titles() const
@@ -61,31 +28,10 @@ public:
     }
 
     std::vector<Message> messages;
-
-    std::deque<std::optional<std::string>> directorySetupAnswers;
-    std::vector<std::string> directorySetupSuggestions;
-    std::deque<bool> directoryCheckAnswers;
-    int directoryChecksAsked = 0;
-    std::deque<bool> newDirectoryAnswers;
-    std::vector<std::string> newDirectoriesAsked;
-    // Entries typed into the Establishment Details dialog, one per OK press.
-    std::deque<EstablishmentForm> establishmentEntries;
-    std::vector<std::pair<EstablishmentForm, std::string>> establishmentDialogs;
-
-private:
-    template <class T> static T take(std::deque<T>& answers, T otherwise)
-    {
-        if (answers.empty())
-            return otherwise;
-        T answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
 };
 
 // A clock standing still at a settable moment; its local time is UTC.
-class FakeClock : public Clock {
-public:
+struct FakeClock : Clock {
     explicit FakeClock(std::int64_t start = 0) : nowSeconds(start) {}
 
     [[nodiscard]] std::int64_t now() const override { return nowSeconds; }
@@ -102,18 +48,13 @@ public:
 
 // Hands out a scripted sequence of values, then repeats the last one; records
 // every seed it was given.
-class FakeRandom : public Random {
-public:
-    explicit FakeRandom(std::vector<std::uint32_t> script = {0})
-        : values(script.begin(), script.end())
-    {}
+struct FakeRandom : Random {
+    explicit FakeRandom(std::deque<std::uint32_t> script = {0}) : values(std::move(script)) {}
 
     void seed(std::uint32_t seed) override { seeds.push_back(seed); }
     std::uint32_t next() override
     {
-        if (values.empty())
-            return 0;
-        const std::uint32_t value = values.front();
+        const std::uint32_t value = values.empty() ? 0 : values.front();
         if (values.size() > 1)
             values.pop_front();
         return value;
@@ -124,45 +65,37 @@ public:
 };
 
 // Settings held in memory; keys compare without regard to case.
-class FakeProfile : public Profile {
-public:
+struct FakeProfile : Profile {
     [[nodiscard]] std::string read(std::string_view key) const override
     {
         const auto found = values.find(toLower(key));
         return found == values.end() ? std::string() : found->second;
     }
-    void write(std::string_view key, std::string_view value) override
+    bool write(std::string_view key, std::string_view value) override
     {
+        if (failWrites)
+            return false;
         values[toLower(key)] = std::string(value);
         writes.emplace_back(std::string(key), std::string(value));
+        return true;
     }
 
+    bool failWrites = false; // every write fails, as on a read-only settings file
     std::map<std::string, std::string> values;
     std::vector<std::pair<std::string, std::string>> writes;
 };
 
-class FakeDrives : public Drives {
-public:
-    [[nodiscard]] std::optional<std::string> rootOf(char letter) const override
-    {
-        const auto found =
-            roots.find(static_cast<char>(std::toupper(static_cast<unsigned char>(letter))));
-        return found == roots.end() ? std::nullopt : std::optional<std::string>(found->second);
-    }
+// No drives and no printer: nothing in the core asks for them.
+struct FakeDrives : Drives {
+    [[nodiscard]] std::optional<std::string> rootOf(char) const override { return {}; }
     [[nodiscard]] std::optional<std::uint64_t> freeBytes(const std::string&) const override
     {
-        return free;
+        return {};
     }
-
-    std::map<char, std::string> roots;
-    std::optional<std::uint64_t> free = 1'440'000;
 };
 
-class FakePrinter : public Printer {
-public:
-    [[nodiscard]] bool hasPrinter() const override { return installed; }
-
-    bool installed = false;
+struct FakePrinter : Printer {
+    [[nodiscard]] bool hasPrinter() const override { return false; }
 };
 
 // One of each fake, wired into a Ports bundle.

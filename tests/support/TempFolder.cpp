@@ -9,12 +9,10 @@ TempFolder::TempFolder()
 {
     static std::atomic<unsigned> counter{0};
     std::random_device device;
-    for (;;) {
+    do
         root_ = std::filesystem::temp_directory_path() /
                 ("purrlodge-test-" + std::to_string(device()) + "-" + std::to_string(counter++));
-        if (std::filesystem::create_directory(root_))
-            break;
-    }
+    while (!std::filesystem::create_directory(root_));
 }
 
 TempFolder::~TempFolder()

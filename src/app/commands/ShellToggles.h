@@ -5,7 +5,8 @@ namespace purrlodge {
 class Session;
 
 // The Setup and Good-Housekeeping toggles. Each flips its setting at once and
-// writes its key at once; the main window repaints afterwards.
+// writes its key at once (a key that cannot be written leaves the setting
+// as it was); the main window repaints afterwards.
 
 // Setup | Digital Clock (11861): ClkTyp "D" (digital) or "C" (analog).
 void toggleDigitalClock(Session& session);

@@ -51,7 +51,8 @@ std::string TApp::suggestedDataFolder()
 
 int TApp::run()
 {
-    const StartupOutcome outcome = runStartupSequence(*session_, suggestedDataFolder());
+    const StartupOutcome outcome =
+        runStartupSequence(*session_, startupQuestions_, suggestedDataFolder());
     if (!outcome.carryOn)
         return outcome.quitCode;
 

@@ -8,6 +8,7 @@
 #include "app/IniProfile.h"
 #include "app/PortableRandom.h"
 #include "app/ProfileDrives.h"
+#include "gui/app/QtSetupQuestions.h"
 #include "gui/ports/QtPrinter.h"
 #include "gui/ports/QtUi.h"
 #include "gui/ports/SystemClock.h"
@@ -41,6 +42,7 @@ private:
     IniProfile profile_;
     ProfileDrives drives_;
     QtPrinter printer_;
+    QtSetupQuestions startupQuestions_;
     std::unique_ptr<Session> session_;
     std::unique_ptr<TMyWindow> window_;
 };

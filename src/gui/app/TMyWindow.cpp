@@ -9,19 +9,13 @@
 #include <QMenuBar>
 #include <QToolBar>
 
-#include "accounts/EstablishmentDetails.h"
 #include "accounts/ExchangeRateSetup.h"
 #include "app/CommandIds.h"
-#include "app/DataFolderSetup.h"
 #include "app/Session.h"
-#include "app/ShellToggles.h"
-#include "gui/accounts/CatterySetupCommands.h"
+#include "app/commands/ShellToggles.h"
 #include "gui/app/ClockFace.h"
 #include "gui/app/MainMenu.h"
 #include "gui/app/MainToolBar.h"
-#include "gui/app/TDlg30.h"
-#include "gui/clients/ClientCommands.h"
-#include "gui/clients/ClientSearchCommands.h"
 
 namespace purrlodge {
 
@@ -41,8 +35,8 @@ QIcon toolBarIcon(const QString& resource)
 } // namespace
 
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
-    : QMainWindow(parent), session_(session), clockFace_(new ClockFace(session, this)),
-      clockTimer_(new QTimer(this))
+    : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
+      clockFace_(new ClockFace(session, this)), clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(clockFace_);
@@ -127,37 +121,47 @@ QAction* TMyWindow::newCommandAction(int commandId, const QString& text, const Q
 
 void TMyWindow::buildCommandTable()
 {
-    using namespace command;
+    Session& session = session_;
 
-    setCommand(digitalClock, [this] {
+    // Setup
+    setCommand(command::catteryDetails,
+               [this] { quitWith(editCatteryDetails(session_, setupQuestions_)); });
+    setCommand(command::setRates, [this] { setRates(session_, setupQuestions_); });
+    setCommand(command::euroExchangeRate,
+               [this] { setEuroExchangeRate(session_, setupQuestions_); });
+    // Euros come into play only when the rates are in Sterling.
+    setEnabler(command::euroExchangeRate,
+               [&session] { return euroExchangeRateEnabled(session.rates); });
+    setCommand(command::setStandardExtra, [this] { setStandardExtra(session_, setupQuestions_); });
+    setCommand(command::setAccountNumber, [this] { setAccountNumber(session_, setupQuestions_); });
+    setCommand(command::changeDataSet,
+               [this] { quitWith(changeDataSet(session_, setupQuestions_)); });
+    setCommand(command::digitalClock, [this] {
         toggleDigitalClock(session_);
         clockFace_->update();
     });
-    setChecker(digitalClock, [this] { return session_.shell.digitalClock; });
-
-    setCommand(showPicNoteIndicator, [this] {
+    setChecker(command::digitalClock, [&session] { return session.shell.digitalClock; });
+    setCommand(command::showPicNoteIndicator, [this] {
         togglePictureNoteIndicator(session_);
         clockFace_->update();
     });
-    setChecker(showPicNoteIndicator, [this] { return session_.shell.pictureNoteIndicator; });
+    setChecker(command::showPicNoteIndicator,
+               [&session] { return session.shell.pictureNoteIndicator; });
 
-    setCommand(remindMe, [this] { toggleBackupReminder(session_); });
-    setChecker(remindMe, [this] { return session_.shell.backupReminder; });
+    // Tasks
+    setCommand(command::seeClientDetails, [this] { seeClientDetails(session_, clientQuestions_); });
+    setCommand(command::editClientDetails,
+               [this] { editClientDetails(session_, clientQuestions_); });
+    setCommand(command::newClient, [this] { newClient(session_, clientQuestions_); });
+    setCommand(command::globalSearch, [this] { globalSearch(session_, clientQuestions_); });
+    setCommand(command::exitProgram, [this] { close(); });
 
-    // Euros come into play only when the rates are in Sterling.
-    setEnabler(euroExchangeRate, [this] { return euroExchangeRateEnabled(session_.rates); });
-    setEnabler(seePictureNotes, [this] {
-        const int picture = session_.shell.pictureIndex;
-        return picture >= 0 && picture < pictureCount &&
-               session_.shell.pictureFlags[static_cast<std::size_t>(picture)];
-    });
+    // Good-Housekeeping
+    setCommand(command::remindMe, [this] { toggleBackupReminder(session_); });
+    setChecker(command::remindMe, [&session] { return session.shell.backupReminder; });
 
-    setCommand(changeDataSet, [this] { openChangeDataSource(); });
-    setCommand(catteryDetails, [this] { editCatteryDetails(); });
-    setCommand(exitProgram, [this] { close(); });
-    registerCatterySetupCommands(*this, session_);
-    registerClientCommands(*this, session_);
-    registerClientSearchCommands(*this, session_);
+    // Help
+    setEnabler(command::seePictureNotes, [&session] { return session.shell.pictureHasNotes(); });
 }
 
 void TMyWindow::setCommand(int commandId, std::function<void()> action)
@@ -219,23 +223,9 @@ void TMyWindow::onClockTick()
     clockTimer_->start(clockPeriodMs);
 }
 
-void TMyWindow::openChangeDataSource()
+void TMyWindow::quitWith(std::optional<int> quitCode)
 {
-    std::optional<int> quitCode;
-    TDlg30 dialog(
-        session_.folder.path(),
-        [this, &quitCode](const std::string& typed) {
-            quitCode = acceptChangeDataSource(session_.ports, typed);
-            return quitCode.has_value();
-        },
-        this);
-    if (dialog.exec() == QDialog::Accepted && quitCode)
-        emit quitRequested(*quitCode);
-}
-
-void TMyWindow::editCatteryDetails()
-{
-    if (const std::optional<int> quitCode = openEstablishmentDetails(session_))
+    if (quitCode)
         emit quitRequested(*quitCode);
 }
 

@@ -2,10 +2,14 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 #include <QList>
 #include <QMainWindow>
 #include <QTimer>
+
+#include "gui/app/QtSetupQuestions.h"
+#include "gui/clients/QtClientQuestions.h"
 
 class QAction;
 class QMenu;
@@ -18,8 +22,9 @@ struct MenuEntry;
 
 // The program's main window: the menu, the tool bar and the clock face. Every
 // menu item and tool-bar button carries a command id (QAction::data); the
-// command table maps each id to its action, and a command without an action
-// yet is shown greyed.
+// command table maps each id to its command in app/commands, run with the
+// questions answered by this window's dialogs. A command without an action yet
+// is shown greyed.
 class TMyWindow : public QMainWindow {
     Q_OBJECT
 
@@ -61,10 +66,12 @@ private:
     void buildCommandTable();
     void runCommand(int commandId);
     void onClockTick();
-    void openChangeDataSource();
-    void editCatteryDetails();
+    // Ends the run when a command answered with a quit code.
+    void quitWith(std::optional<int> quitCode);
 
     Session& session_;
+    QtSetupQuestions setupQuestions_;
+    QtClientQuestions clientQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;

@@ -65,7 +65,7 @@ void TDlg38::showSelectedDetails()
     const QList<QListWidgetItem*> selected = list_->selectedItems();
     if (selected.isEmpty())
         return;
-    showDetails_(this, toWindows1252(selected.first()->text()));
+    showDetails_(toWindows1252(selected.first()->text()));
 }
 
 } // namespace purrlodge

@@ -21,9 +21,9 @@ class TDlg38 : public QDialog {
     Q_OBJECT
 
 public:
-    // dialog: this dialog, the owner of the details that open; line: 1252
-    // bytes, as the search made it.
-    using ShowDetails = std::function<void(QWidget* dialog, const std::string& line)>;
+    // line: 1252 bytes, as the search made it. The details open in front of
+    // this dialog.
+    using ShowDetails = std::function<void(const std::string& line)>;
 
     TDlg38(const GlobalSearchResult& result, ShowDetails showDetails, QWidget* parent = nullptr);
 

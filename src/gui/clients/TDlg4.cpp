@@ -61,6 +61,12 @@ FinderSearch TDlg4::search() const
     return catRadioButton_->isChecked() ? FinderSearch::Cat : FinderSearch::Person;
 }
 
+void TDlg4::showEntry(const std::string& name, FinderSearch search)
+{
+    setFieldText(*nameEdit_, name);
+    (search == FinderSearch::Cat ? catRadioButton_ : personRadioButton_)->setChecked(true);
+}
+
 void TDlg4::showEvent(QShowEvent* event)
 {
     // Shown again after a refused name: the name is there to be put right.

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] std::string name() const;
     [[nodiscard]] FinderSearch search() const;
 
+    // Shows the entries as typed before (a refused name, to be put right).
+    void showEntry(const std::string& name, FinderSearch search);
+
 protected:
     void showEvent(QShowEvent* event) override;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Printer.h"
+#include "ports/Printer.h"
 
 namespace purrlodge {
 

@@ -1,13 +1,9 @@
 #include "gui/ports/QtUi.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
+#include "gui/FrontWindow.h"
 #include "gui/Text1252.h"
-#include "gui/accounts/TDlg13.h"
-#include "gui/app/TDlg1.h"
-#include "gui/app/TDlg11.h"
-#include "gui/app/TDlg32.h"
 
 namespace purrlodge {
 
@@ -32,48 +28,12 @@ QMessageBox::Icon boxIcon(MessageIcon icon)
 
 } // namespace
 
-QWidget* QtUi::dialogParent() const
-{
-    if (QWidget* modal = QApplication::activeModalWidget())
-        return modal;
-    return mainWindow_.data();
-}
-
 void QtUi::showMessage(const Message& message)
 {
     QMessageBox box(boxIcon(message.icon), fromWindows1252(message.title),
-                    fromWindows1252(message.text), QMessageBox::Ok, dialogParent());
+                    fromWindows1252(message.text), QMessageBox::Ok, frontWindow(mainWindow_));
     box.setTextFormat(Qt::PlainText); // the program's texts are never markup
     box.exec();
-}
-
-std::optional<std::string> QtUi::askDirectorySetup(const std::string& suggestion)
-{
-    TDlg1 dialog(suggestion, dialogParent());
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return dialog.folder();
-}
-
-bool QtUi::askDirectoryCheck()
-{
-    TDlg11 dialog(dialogParent());
-    return dialog.exec() == QDialog::Accepted;
-}
-
-bool QtUi::askNewDirectory(const std::string& folder)
-{
-    TDlg32 dialog(folder, dialogParent());
-    return dialog.exec() == QDialog::Accepted;
-}
-
-std::optional<FormVerdict>
-QtUi::runEstablishmentDetails(const EstablishmentForm& initial, const std::string& dataFolder,
-                              const std::function<FormVerdict(const EstablishmentForm&)>& accept)
-{
-    TDlg13 dialog(initial, dataFolder, accept, dialogParent());
-    dialog.exec();
-    return dialog.verdict();
 }
 
 } // namespace purrlodge

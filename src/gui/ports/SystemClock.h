@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Clock.h"
+#include "ports/Clock.h"
 
 namespace purrlodge {
 

@@ -1,0 +1,112 @@
+#include "gui/clients/QtClientQuestions.h"
+
+#include "gui/FrontWindow.h"
+#include "gui/clients/TDlg12.h"
+#include "gui/clients/TDlg16.h"
+#include "gui/clients/TDlg2.h"
+#include "gui/clients/TDlg3.h"
+#include "gui/clients/TDlg37.h"
+#include "gui/clients/TDlg38.h"
+#include "gui/clients/TDlg4.h"
+#include "gui/clients/TDlg5.h"
+#include "gui/clients/TDlg50.h"
+#include "gui/clients/TDlg51.h"
+#include "gui/clients/TDlg52.h"
+
+namespace purrlodge {
+
+QWidget* QtClientQuestions::parent() const
+{
+    return frontWindow(mainWindow_);
+}
+
+std::optional<FinderEntry> QtClientQuestions::askClientName(const FinderOptions& options,
+                                                            const FinderEntry& shown)
+{
+    TDlg4 dialog(options, parent());
+    dialog.showEntry(shown.name, shown.search);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return FinderEntry{dialog.name(), dialog.search()};
+}
+
+std::optional<int> QtClientQuestions::chooseMatch(const FinderResult& result)
+{
+    TDlg2 dialog(result, parent());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.chosenMatch();
+}
+
+std::optional<FormVerdict> QtClientQuestions::fillClientForm(const ClientForm& initial,
+                                                             const OkRule<ClientForm>& onOk)
+{
+    TDlg3 dialog(initial, onOk, parent());
+    dialog.exec();
+    return dialog.verdict();
+}
+
+bool QtClientQuestions::confirmSurnameChange()
+{
+    TDlg5 dialog(parent());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool QtClientQuestions::continueDespiteBirthYear(const DateWarning& warning)
+{
+    TDlg16 dialog(warning, TDlg16::Choice::ContinueOrCancel, parent());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+void QtClientQuestions::showDateWarning(const DateWarning& warning)
+{
+    TDlg16 dialog(warning, TDlg16::Choice::Close, parent());
+    dialog.exec();
+}
+
+std::optional<LeavingCatAnswer> QtClientQuestions::askWhyCatLeft(const std::string& catName)
+{
+    TDlg50 dialog(catName, parent());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.answer();
+}
+
+CatNameChoice QtClientQuestions::askCatNameChange(const std::string& oldName,
+                                                  const std::string& newName)
+{
+    TDlg51 dialog(oldName, newName, parent());
+    dialog.exec();
+    return dialog.choice();
+}
+
+void QtClientQuestions::showClientDetails(const ClientDetailsListing& details,
+                                          const OtherCatsListing& otherCats,
+                                          const OtherCatsListing& specialNotes)
+{
+    TDlg12 dialog(
+        details,
+        [&](QWidget* detailsDialog, OtherCatsMode mode) {
+            TDlg52 list(mode == OtherCatsMode::NoteBook ? specialNotes : otherCats, detailsDialog);
+            list.exec();
+        },
+        parent());
+    dialog.exec();
+}
+
+std::optional<GlobalSearchRequest> QtClientQuestions::askGlobalSearch()
+{
+    TDlg37 dialog(parent());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.request();
+}
+
+void QtClientQuestions::showGlobalSearchResults(const GlobalSearchResult& result,
+                                                const ResultLineAction& showDetails)
+{
+    TDlg38 dialog(result, showDetails, parent());
+    dialog.exec();
+}
+
+} // namespace purrlodge

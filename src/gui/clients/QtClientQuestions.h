@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "app/commands/ClientEntry.h"
+#include "app/commands/ClientLookup.h"
+
+namespace purrlodge {
+
+// The client commands' questions answered with their dialogs: the finder, Full
+// Client Information with the questions its OK asks, the full details and
+// Global Search. Each dialog is modal over the window in front.
+class QtClientQuestions : public ClientEntryQuestions, public ClientLookupQuestions {
+public:
+    // mainWindow: the owner of the dialogs when no other dialog is open.
+    explicit QtClientQuestions(QWidget* mainWindow) : mainWindow_(mainWindow) {}
+
+    std::optional<FinderEntry> askClientName(const FinderOptions& options,
+                                             const FinderEntry& shown) override;
+    std::optional<int> chooseMatch(const FinderResult& result) override;
+
+    std::optional<FormVerdict> fillClientForm(const ClientForm& initial,
+                                              const OkRule<ClientForm>& onOk) override;
+    bool confirmSurnameChange() override;
+    bool continueDespiteBirthYear(const DateWarning& warning) override;
+    void showDateWarning(const DateWarning& warning) override;
+    std::optional<LeavingCatAnswer> askWhyCatLeft(const std::string& catName) override;
+    CatNameChoice askCatNameChange(const std::string& oldName, const std::string& newName) override;
+
+    void showClientDetails(const ClientDetailsListing& details, const OtherCatsListing& otherCats,
+                           const OtherCatsListing& specialNotes) override;
+    std::optional<GlobalSearchRequest> askGlobalSearch() override;
+    void showGlobalSearchResults(const GlobalSearchResult& result,
+                                 const ResultLineAction& showDetails) override;
+
+private:
+    [[nodiscard]] QWidget* parent() const;
+
+    QPointer<QWidget> mainWindow_;
+};
+
+} // namespace purrlodge

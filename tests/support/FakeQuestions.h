@@ -1,0 +1,200 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/StartupSequence.h"
+#include "app/commands/CatterySetup.h"
+#include "app/commands/ChangeDataSet.h"
+#include "app/commands/ClientEntry.h"
+#include "app/commands/ClientLookup.h"
+
+namespace purrlodge::testing {
+
+// Takes the next scripted answer; an unscripted question gets `otherwise`
+// (Cancel, No or nothing).
+template <class T> T next(std::deque<T>& answers, T otherwise = T{})
+{
+    if (answers.empty())
+        return otherwise;
+    T answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
+// A form dialog typed into from a script: each entry is one press of OK,
+// handed to the core's rule until it lets the dialog close; when the script
+// runs out first, the dialog is cancelled.
+template <class Form> struct ScriptedForm {
+    std::optional<FormVerdict> run(const Form& initial, const OkRule<Form>& onOk)
+    {
+        shown.push_back(initial);
+        while (!entries.empty()) {
+            if (beforeOk)
+                beforeOk(verdicts.size());
+            const FormVerdict verdict = onOk(next(entries));
+            verdicts.push_back(verdict);
+            if (verdict != FormVerdict::StayOpen)
+                return verdict;
+        }
+        return std::nullopt;
+    }
+
+    std::deque<Form> entries;          // typed before each OK
+    std::vector<Form> shown;           // what each opening showed
+    std::vector<FormVerdict> verdicts; // what each OK came to
+    // Runs before each OK with the number of OKs pressed so far: a fault can
+    // be made or put right between two presses.
+    std::function<void(std::size_t)> beforeOk;
+};
+
+// The set-up questions answered from scripts.
+struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, CatterySetupQuestions {
+    std::optional<std::string> askDirectorySetup(const std::string& suggestion) override
+    {
+        directorySetupSuggestions.push_back(suggestion);
+        return next(directorySetupAnswers);
+    }
+    bool askDirectoryCheck() override
+    {
+        ++directoryChecksAsked;
+        return next(directoryCheckAnswers);
+    }
+    bool askNewDirectory(const std::string& folder) override
+    {
+        newDirectoriesAsked.push_back(folder);
+        return next(newDirectoryAnswers);
+    }
+    std::optional<FormVerdict> fillChangeDataSource(const std::string& currentFolder,
+                                                    const OkRule<std::string>& onOk) override
+    {
+        return changeDataSource.run(currentFolder, onOk);
+    }
+    std::optional<FormVerdict>
+    fillEstablishmentDetails(const EstablishmentForm& initial, const std::string& dataFolder,
+                             const OkRule<EstablishmentForm>& onOk) override
+    {
+        establishmentFolders.push_back(dataFolder);
+        return establishment.run(initial, onOk);
+    }
+    std::optional<FormVerdict> fillRates(const RatesForm& initial,
+                                         const OkRule<RatesForm>& onOk) override
+    {
+        return rates.run(initial, onOk);
+    }
+    std::optional<FormVerdict> fillExchangeRate(const ExchangeRateForm& initial,
+                                                const OkRule<ExchangeRateForm>& onOk) override
+    {
+        return exchangeRate.run(initial, onOk);
+    }
+    std::optional<FormVerdict> fillStandardExtra(const StandardExtraForm& initial,
+                                                 const OkRule<StandardExtraForm>& onOk) override
+    {
+        return standardExtra.run(initial, onOk);
+    }
+    std::optional<FormVerdict> fillReceiptNumber(const std::string& offer,
+                                                 const OkRule<std::string>& onOk) override
+    {
+        return receiptNumber.run(offer, onOk);
+    }
+
+    std::deque<std::optional<std::string>> directorySetupAnswers;
+    std::vector<std::string> directorySetupSuggestions;
+    std::deque<bool> directoryCheckAnswers;
+    int directoryChecksAsked = 0;
+    std::deque<bool> newDirectoryAnswers;
+    std::vector<std::string> newDirectoriesAsked;
+    ScriptedForm<std::string> changeDataSource;
+    ScriptedForm<EstablishmentForm> establishment;
+    std::vector<std::string> establishmentFolders;
+    ScriptedForm<RatesForm> rates;
+    ScriptedForm<ExchangeRateForm> exchangeRate;
+    ScriptedForm<StandardExtraForm> standardExtra;
+    ScriptedForm<std::string> receiptNumber;
+};
+
+// The client commands' questions answered from scripts; records what was asked.
+struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
+    std::optional<FinderEntry> askClientName(const FinderOptions& options,
+                                             const FinderEntry& shown) override
+    {
+        finderOptions.push_back(options);
+        namesShown.push_back(shown);
+        return next(names);
+    }
+    std::optional<int> chooseMatch(const FinderResult& result) override
+    {
+        matchRows.push_back(result.rows);
+        return next(matches);
+    }
+
+    std::optional<FormVerdict> fillClientForm(const ClientForm& initial,
+                                              const OkRule<ClientForm>& onOk) override
+    {
+        return clientForm.run(initial, onOk);
+    }
+    bool confirmSurnameChange() override
+    {
+        ++surnameAlerts;
+        return surnameYes;
+    }
+    bool continueDespiteBirthYear(const DateWarning& warning) override
+    {
+        warnings.push_back(warning);
+        return continueAfterWarning;
+    }
+    void showDateWarning(const DateWarning& warning) override { warnings.push_back(warning); }
+    std::optional<LeavingCatAnswer> askWhyCatLeft(const std::string& catName) override
+    {
+        asked.push_back("left " + catName);
+        return leaving;
+    }
+    CatNameChoice askCatNameChange(const std::string& oldName, const std::string& newName) override
+    {
+        asked.push_back(oldName + ">" + newName);
+        return nameChoice;
+    }
+
+    void showClientDetails(const ClientDetailsListing& details, const OtherCatsListing& otherCats,
+                           const OtherCatsListing& specialNotes) override
+    {
+        detailsShown.push_back(details);
+        otherCatsShown.push_back(otherCats);
+        specialNotesShown.push_back(specialNotes);
+    }
+    std::optional<GlobalSearchRequest> askGlobalSearch() override { return next(searches); }
+    void showGlobalSearchResults(const GlobalSearchResult& result,
+                                 const ResultLineAction& showDetails) override
+    {
+        results.push_back(result);
+        for (const std::size_t line : detailsOfLines)
+            showDetails(result.lines.at(line));
+    }
+
+    std::deque<std::optional<FinderEntry>> names;
+    std::vector<FinderOptions> finderOptions;
+    std::vector<FinderEntry> namesShown;
+    std::deque<std::optional<int>> matches;
+    std::vector<std::vector<std::string>> matchRows;
+
+    ScriptedForm<ClientForm> clientForm;
+    bool surnameYes = false;
+    int surnameAlerts = 0;
+    bool continueAfterWarning = false;
+    std::vector<DateWarning> warnings;
+    std::optional<LeavingCatAnswer> leaving; // Cancel unless set
+    CatNameChoice nameChoice = CatNameChoice::NameChanged;
+    std::vector<std::string> asked;
+
+    std::vector<ClientDetailsListing> detailsShown;
+    std::vector<OtherCatsListing> otherCatsShown;
+    std::vector<OtherCatsListing> specialNotesShown;
+    std::deque<std::optional<GlobalSearchRequest>> searches;
+    std::vector<GlobalSearchResult> results;
+    std::vector<std::size_t> detailsOfLines; // lines whose "Show Details" is pressed
+};
+
+} // namespace purrlodge::testing
