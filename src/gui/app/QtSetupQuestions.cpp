@@ -52,17 +52,8 @@ bool QtSetupQuestions::askNewDirectory(const std::string& folder)
 std::optional<FormVerdict> QtSetupQuestions::fillChangeDataSource(const std::string& currentFolder,
                                                                   const OkRule<std::string>& onOk)
 {
-    std::optional<FormVerdict> verdict;
-    TDlg30 dialog(
-        currentFolder,
-        [&](const std::string& typed) {
-            verdict = onOk(typed);
-            return verdict != FormVerdict::StayOpen;
-        },
-        parent());
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return verdict;
+    TDlg30 dialog(currentFolder, onOk, parent());
+    return run(dialog);
 }
 
 std::optional<FormVerdict>

@@ -20,8 +20,8 @@ namespace {
 constexpr std::size_t folderFieldWidth = 81;
 } // namespace
 
-TDlg30::TDlg30(const std::string& current, AcceptFolder acceptFolder, QWidget* parent)
-    : QDialog(parent), acceptFolder_(std::move(acceptFolder))
+TDlg30::TDlg30(const std::string& current, const OkRule<std::string>& onOk, QWidget* parent)
+    : FormDialog([this, onOk] { return onOk(fieldText(*folderEdit_)); }, parent)
 {
     setObjectName(QStringLiteral("changeDataSourceDialog"));
     setWindowTitle(QStringLiteral("Change Data Source"));
@@ -55,12 +55,6 @@ TDlg30::TDlg30(const std::string& current, AcceptFolder acceptFolder, QWidget* p
     layout->addSpacing(8);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-void TDlg30::accept()
-{
-    if (acceptFolder_(fieldText(*folderEdit_)))
-        QDialog::accept();
 }
 
 void TDlg30::browse()
