@@ -35,6 +35,9 @@ public:
     DataFolder folder;
 
     ClientRecord client{};
+    // The current client's code as the index spells it, which names the
+    // client's files; empty while no client is current.
+    std::string clientCode;
     StayRecord stay{};
     ClientIndex index{};
 

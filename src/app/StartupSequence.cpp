@@ -11,6 +11,7 @@
 #include "clients/ClientFormRules.h"
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
+#include "store/IndexRepair.h"
 #include "store/Windows1252.h"
 
 namespace purrlodge {
@@ -62,7 +63,9 @@ std::optional<int> chooseDataFolder(Session& session, StartupQuestions& question
 {
     const std::string currentDir = session.ports.profile.read("CurrentDir");
     if (!currentDir.empty() && !session.shell.switches.forceDirectorySetup) {
-        session.folder.setPath(currentDir);
+        // However it was stored, the folder ends in its separator, or every
+        // file would land beside it.
+        session.folder.setPath(withTrailingSeparator(currentDir));
         return std::nullopt;
     }
     const std::optional<std::string> typed = questions.askDirectorySetup(suggestedDataFolder);
@@ -93,6 +96,62 @@ void openClientIndex(Session& session)
         static_cast<void>(writeIndex(session.folder, session.index));
     }
     session.shell.backupReminderMode = session.index.backupReminderMode.get();
+}
+
+// Tells the person what was found in a damaged index and how it was put
+// right. The damaged file is copied first; only then is the repaired index
+// written over it. Returns false when no copy could be made, in which case
+// the file is left as it is and the repaired index serves from memory.
+bool repairIndexFile(Session& session, std::string_view file, ClientIndex& index)
+{
+    const std::optional<std::uintmax_t> size = session.folder.fileSize(file);
+    if (!size)
+        return true;
+    const IndexRepair repair = repairIndex(index, *size);
+    if (!repair.repaired())
+        return true;
+    std::string text = "The client list " + session.folder.fileName(file) + " was damaged:\n";
+    for (const std::string& finding : repair.findings)
+        text += "  - " + finding + "\n";
+    text += "\nIt has been repaired from its own entries: " + std::to_string(repair.kept) +
+            (repair.kept == 1 ? " client is" : " clients are") + " listed.";
+    const std::optional<std::string> copy = session.folder.keepDamagedCopy(file);
+    if (copy)
+        text += "\nThe damaged file is kept as " + *copy + " in the data folder.";
+    else
+        text += "\nNo copy of the damaged file could be made, so the file itself has not "
+                "been changed.";
+    session.ports.ui.showMessage({text, "Client List Repaired", MessageIcon::Exclamation});
+    // A failed write has been told; the repaired index still serves from memory.
+    return copy && session.folder.replaceBytes(file, &index, sizeof index);
+}
+
+// The current index's damage is repaired before it is sorted; the past
+// clients' list is put right the same way. Codes that cannot name a file are
+// told once: those clients stay listed, but are never opened or written.
+// Returns whether the current index may be written back.
+bool checkClientIndexes(Session& session)
+{
+    const bool mayWrite = repairIndexFile(session, currentIndexFile, session.index);
+
+    ClientIndex past{};
+    if (session.folder.read(pastIndexFile, past)) {
+        // The past clients' list has always counted an empty list as -1.
+        if (past.count.get() == -1)
+            past.count.set(0);
+        static_cast<void>(repairIndexFile(session, pastIndexFile, past));
+    }
+
+    const std::vector<std::string> unsafe = unsafeCodeEntries(session.index);
+    if (!unsafe.empty()) {
+        std::string text =
+            "The client list names clients by codes that cannot name a file in the data folder:\n";
+        for (const std::string& entry : unsafe)
+            text += "  - " + entry + "\n";
+        text += "\nThese clients are listed, but cannot be opened or changed.";
+        session.ports.ui.showMessage({text, "Data Error", MessageIcon::Exclamation});
+    }
+    return mayWrite;
 }
 
 // Step 7. An index made at start-up has the stamp 0 and is accepted.
@@ -139,6 +198,8 @@ StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
             chooseDataFolder(session, questions, suggestedDataFolder))
         return {false, *quitCode};
     readDisplaySettings(session);
+    // What a crash left half-written is of no use: the files it was to replace are whole.
+    session.folder.removeLeftoverTemporaryFiles();
 
     openClientIndex(session);
     if (!indexIsCompatible(session.index)) {
@@ -146,9 +207,11 @@ StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
         return {false, 0};
     }
     readIndex(session.folder, session.index);
+    const bool indexMayBeWritten = checkClientIndexes(session);
     sortIndexEntries(session.index);
     // Sorted on disc too; should that fail, the sorted index in memory still serves.
-    static_cast<void>(writeIndex(session.folder, session.index));
+    if (indexMayBeWritten)
+        static_cast<void>(writeIndex(session.folder, session.index));
 
     if (const std::optional<int> quitCode = loadCatteryFiles(session, questions))
         return {false, *quitCode};

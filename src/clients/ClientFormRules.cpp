@@ -100,9 +100,12 @@ public:
         : context_(context), form_(form), questions_(questions),
           editing_(form.mode == ClientFormMode::EditClient)
     {
-        if (editing_)
+        if (editing_) {
             draft_ = context.client;
-        else
+            // A record that names another code (or the same in other case)
+            // is put right: its files are the ones the index names.
+            draft_.code.set(context.clientCode);
+        } else
             clearClientRecord(draft_);
     }
 
@@ -203,8 +206,9 @@ private:
         if (form_.surname == stored.surname.str() || !questions_.confirmSurnameChange())
             return true;
         ClientRecord renamed = stored;
+        renamed.code = draft_.code;
         renamed.surname.set(form_.surname);
-        if (!writeClientRecord(context_.folder, renamed.code.str(), renamed))
+        if (!writeClientRecord(context_.folder, context_.clientCode, renamed))
             return false;
         context_.client = renamed;
         draft_.surname = renamed.surname;
@@ -215,7 +219,7 @@ private:
     // changes only when the file was written.
     bool writeIndexKey(const ClientRecord& client)
     {
-        const int entry = findCode(context_.index, client.code.str());
+        const int entry = findCode(context_.index, context_.clientCode);
         if (entry <= 0 || context_.index.entries[entry].key.str() == client.surname.str())
             return true;
         ClientIndex updated = context_.index;
@@ -367,7 +371,7 @@ private:
                                         draft_, departure.cat, departure.answer))
                     return FormVerdict::StayOpen;
             }
-            if (!writeClientRecord(context_.folder, draft_.code.str(), draft_) ||
+            if (!writeClientRecord(context_.folder, context_.clientCode, draft_) ||
                 !writeIndexKey(draft_))
                 return FormVerdict::StayOpen;
             context_.client = draft_;
@@ -388,6 +392,7 @@ private:
             break;
         }
         context_.client = draft_;
+        context_.clientCode = draft_.code.str();
         return FormVerdict::Accept;
     }
 

@@ -67,7 +67,11 @@ struct ClientFormContext {
     const DataFolder& folder;
     ClientIndex& index;
     ClientRecord& client; // the current client: replaced when the save goes through
-    RandomDraw& draw;     // makes a new client's code
+    // The current client's code as the index spells it: an edited client is
+    // saved under it, whatever code the record itself holds; a new client's
+    // code is put here when the save goes through.
+    std::string& clientCode;
+    RandomDraw& draw; // makes a new client's code
     const Clock& clock;
     Ui& ui;
     int currentYear = 1970;

@@ -15,6 +15,17 @@ bool isFileNameSafe(char c)
     return std::string_view("/\\:*?\"<>|").find(c) == std::string_view::npos;
 }
 
+bool isSafeClientCode(std::string_view code)
+{
+    if (code.empty() || code.size() > clientCodeLength || code.find("..") != std::string_view::npos)
+        return false;
+    for (const char c : code) {
+        if (!isFileNameSafe(c))
+            return false;
+    }
+    return true;
+}
+
 std::string makeClientCode(std::string_view surname, std::string_view firstName, RandomDraw& draw,
                            const std::function<bool(std::string_view)>& isTaken)
 {

@@ -24,4 +24,8 @@ inline constexpr std::size_t clientCodeLength = 8;
 // Whether a character can stand in a file name on every platform we run on.
 [[nodiscard]] bool isFileNameSafe(char c);
 
+// Whether a code read from an index or a record may name a client's files:
+// one to eight characters, each safe in a file name, and no "..".
+[[nodiscard]] bool isSafeClientCode(std::string_view code);
+
 } // namespace purrlodge

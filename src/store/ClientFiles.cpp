@@ -3,6 +3,7 @@
 #include "store/ClientCode.h"
 #include "store/DataFolder.h"
 #include "store/IndexOperations.h"
+#include "store/IndexRepair.h"
 #include "store/RandomDraw.h"
 #include "store/TextHelpers.h"
 
@@ -48,6 +49,10 @@ bool readPastIndex(const DataFolder& folder, ClientIndex& past)
     const bool opened = folder.read(pastIndexFile, past);
     if (past.count.get() == -1)
         past.count.set(0);
+    // Start-up has told the person of any damage; here it is only put right.
+    if (opened)
+        static_cast<void>(
+            repairIndex(past, folder.fileSize(pastIndexFile).value_or(sizeof(ClientIndex))));
     return opened;
 }
 

@@ -3,7 +3,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "ports/Ui.h"
@@ -21,6 +20,18 @@ std::filesystem::path toPath(const std::string& name)
 }
 
 } // namespace
+
+bool isPlainFileName(std::string_view name)
+{
+    if (name.empty() || name == "." || name.find("..") != std::string_view::npos)
+        return false;
+    for (const char c : name) {
+        const auto u = static_cast<unsigned char>(c);
+        if (u < 0x20 || u == 0x7F || c == '/' || c == '\\' || c == ':')
+            return false;
+    }
+    return true;
+}
 
 bool isFolderSeparator(char c)
 {
@@ -45,34 +56,56 @@ std::string DataFolder::fileName(std::string_view name) const
 bool DataFolder::readBytes(std::string_view name, void* block, std::size_t size) const
 {
     std::memset(block, 0, size);
-    std::ifstream file(toPath(fileName(name)), std::ios::binary);
-    if (!file)
+    if (!isPlainFileName(name))
         return false;
-    file.read(static_cast<char*>(block), static_cast<std::streamsize>(size));
-    if (file.bad()) {
+    const std::filesystem::path file = toPath(fileName(name));
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream)
+        return false;
+    stream.read(static_cast<char*>(block), static_cast<std::streamsize>(size));
+    if (stream.bad()) {
         // A folder in the file's place opens but cannot be read: nothing was read.
         std::memset(block, 0, size);
         return false;
     }
+    std::error_code sizeError;
+    const std::uintmax_t fileSize = std::filesystem::file_size(file, sizeError);
+    if (!sizeError && fileSize / 2 > size)
+        reportOversized(name, fileSize, size);
     return true;
+}
+
+void DataFolder::reportOversized(std::string_view name, std::uintmax_t fileSize,
+                                 std::size_t blockSize) const
+{
+    if (!reportedOversized_.insert(std::string(name)).second)
+        return;
+    ui_.showMessage({"The file " + fileName(name) + " is " + std::to_string(fileSize) +
+                         " bytes long, far longer than the " + std::to_string(blockSize) +
+                         " bytes it should hold, and may be damaged.\n\nOnly its first " +
+                         std::to_string(blockSize) +
+                         " bytes are used; the rest is left on the disc as it is.",
+                     "Data Error", MessageIcon::Exclamation});
 }
 
 bool DataFolder::writeBytes(std::string_view name, const void* block, std::size_t size) const
 {
+    return writeWhole(name, block, size, true);
+}
+
+bool DataFolder::replaceBytes(std::string_view name, const void* block, std::size_t size) const
+{
+    return writeWhole(name, block, size, false);
+}
+
+bool DataFolder::writeWhole(std::string_view name, const void* block, std::size_t size,
+                            bool keepTail) const
+{
     const std::string target = fileName(name);
-
-    // Keep the tail of a longer existing file, as a write without truncation does.
-    std::string contents(static_cast<const char*>(block), size);
-    std::error_code sizeError;
-    const auto existingSize = std::filesystem::file_size(toPath(target), sizeError);
-    if (!sizeError && existingSize > size) {
-        std::ifstream existing(toPath(target), std::ios::binary);
-        existing.seekg(static_cast<std::streamoff>(size));
-        contents.append(std::istreambuf_iterator<char>(existing), std::istreambuf_iterator<char>());
-    }
-
-    std::string reason;
-    if (replaceFileContents(toPath(target), contents, reason))
+    std::string reason = "the name is not that of a file in the data folder";
+    if (isPlainFileName(name) &&
+        replaceFileContents(toPath(target), {static_cast<const char*>(block), size}, reason,
+                            keepTail ? OldTail::Keep : OldTail::Drop))
         return true;
     ui_.showMessage({"The file " + target + " could not be saved:\n" + reason +
                          "\n\nThe copy on disc has not been changed.",
@@ -103,7 +136,48 @@ bool DataFolder::existsIgnoringCase(std::string_view name) const
 bool DataFolder::remove(std::string_view name) const
 {
     std::error_code error;
-    return std::filesystem::remove(toPath(fileName(name)), error);
+    return isPlainFileName(name) && std::filesystem::remove(toPath(fileName(name)), error);
+}
+
+std::optional<std::uintmax_t> DataFolder::fileSize(std::string_view name) const
+{
+    if (!isPlainFileName(name))
+        return std::nullopt;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(toPath(fileName(name)), error);
+    return error ? std::nullopt : std::optional<std::uintmax_t>(size);
+}
+
+std::optional<std::string> DataFolder::keepDamagedCopy(std::string_view name) const
+{
+    if (!exists(name))
+        return std::nullopt;
+    const std::string stem(name.substr(0, name.find('.')));
+    for (int number = 0; number < 100; ++number) {
+        const std::string copy = stem + (number == 0 ? "" : std::to_string(number)) + ".BAD";
+        std::error_code error;
+        if (std::filesystem::exists(toPath(fileName(copy)), error) || error)
+            continue;
+        if (std::filesystem::copy_file(toPath(fileName(name)), toPath(fileName(copy)), error))
+            return copy;
+        return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> DataFolder::removeLeftoverTemporaryFiles() const
+{
+    std::vector<std::string> removed;
+    std::error_code error;
+    for (std::filesystem::directory_iterator it(toPath(folder_), error), end; !error && it != end;
+         it.increment(error)) {
+        std::error_code typeError;
+        const std::string name = windows1252Of(it->path().filename());
+        if (it->is_regular_file(typeError) && !it->is_symlink(typeError) &&
+            name.ends_with(temporaryFileEnding) && remove(name))
+            removed.push_back(name);
+    }
+    return removed;
 }
 
 } // namespace purrlodge

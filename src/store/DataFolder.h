@@ -1,10 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace purrlodge {
 
@@ -17,9 +21,14 @@ inline constexpr char folderSeparator =
 // The folder name with a separator at its end (an empty name stays empty).
 [[nodiscard]] std::string withTrailingSeparator(std::string folder);
 
+// Whether a name can only ever mean a file inside the data folder: not empty,
+// no separator, no "..", no control character.
+[[nodiscard]] bool isPlainFileName(std::string_view name);
+
 // The one folder that holds a data set. Every file name is the folder (which
 // ends in the separator) followed directly by the file's own name. Blocks are
-// read and written whole.
+// read and written whole. A name that is not a plain file name is never
+// opened: a read gives zeros and a write is refused as a file error.
 class DataFolder {
 public:
     // folder must end in the native separator; ui hears of failed writes.
@@ -30,14 +39,22 @@ public:
     [[nodiscard]] std::string fileName(std::string_view name) const;
 
     // Clears the block, then reads what the file holds: a missing or short file
-    // leaves zeros. Returns whether the file could be opened and read.
+    // leaves zeros, and only the block's size is ever read. A file more than
+    // twice as long as its block is damaged: the person is told so once per
+    // file and run. Returns whether the file could be opened and read.
     bool readBytes(std::string_view name, void* block, std::size_t size) const;
 
     // Writes the block crash-safely: a temporary file beside the target, flushed
     // and renamed over it. A longer existing file keeps its tail, as writing
-    // without truncation would. A failure is told to the person ("File Error")
-    // and the old file stays as it was. Returns whether the write succeeded.
+    // without truncation would. A failure (a write-protected file among them)
+    // is told to the person ("File Error") and the old file stays as it was.
+    // Returns whether the write succeeded.
     [[nodiscard]] bool writeBytes(std::string_view name, const void* block, std::size_t size) const;
+
+    // The same, but the file holds the block and nothing more afterwards: for
+    // a repaired file whose damaged copy has been kept.
+    [[nodiscard]] bool replaceBytes(std::string_view name, const void* block,
+                                    std::size_t size) const;
 
     template <class Block> bool read(std::string_view name, Block& block) const
     {
@@ -57,9 +74,29 @@ public:
 
     bool remove(std::string_view name) const;
 
+    // The size of the file in bytes; nothing when there is no such file.
+    [[nodiscard]] std::optional<std::uintmax_t> fileSize(std::string_view name) const;
+
+    // Copies the file, as it stands, to the first free name of "<stem>.BAD",
+    // "<stem>1.BAD" ... "<stem>99.BAD" (stem: the name before its dot), so a
+    // damaged file is kept before it is repaired. Returns the copy's name, or
+    // nothing when no copy could be made.
+    [[nodiscard]] std::optional<std::string> keepDamagedCopy(std::string_view name) const;
+
+    // Removes the temporary files that a crash in the middle of a write left
+    // behind; the files they were to replace are whole. Returns their names.
+    std::vector<std::string> removeLeftoverTemporaryFiles() const;
+
 private:
+    bool writeWhole(std::string_view name, const void* block, std::size_t size,
+                    bool keepTail) const;
+    void reportOversized(std::string_view name, std::uintmax_t fileSize,
+                         std::size_t blockSize) const;
+
     std::string folder_;
     Ui& ui_;
+    // Files already reported as far too long, so each is told once a run.
+    mutable std::set<std::string, std::less<>> reportedOversized_;
 };
 
 } // namespace purrlodge

@@ -1,6 +1,8 @@
 #include "store/SafeFile.h"
 
+#include <array>
 #include <cerrno>
+#include <fstream>
 
 #ifdef _WIN32
 #include <io.h>
@@ -44,16 +46,46 @@ bool linkedFile(fs::path& file, std::error_code& error)
     return false;
 }
 
-// Writes the bytes and makes sure they reached the disc before the rename;
-// otherwise a crash could leave an empty file in place of the old one.
+// Appends what `old` holds beyond its first `from` bytes, a piece at a time.
+bool copyTail(FileOperations& files, std::FILE* stream, const fs::path& old, std::uintmax_t from,
+              std::error_code& error)
+{
+    std::error_code sizeError;
+    const std::uintmax_t size = fs::file_size(old, sizeError);
+    if (sizeError || size <= from)
+        return true; // no older file, or no longer one: nothing to keep
+    std::ifstream source(old, std::ios::binary);
+    if (!source.seekg(static_cast<std::streamoff>(from))) {
+        error = std::make_error_code(std::errc::io_error);
+        return false;
+    }
+    std::array<char, 64 * 1024> piece{};
+    while (source) {
+        source.read(piece.data(), static_cast<std::streamsize>(piece.size()));
+        const auto got = static_cast<std::size_t>(source.gcount());
+        if (got > 0 && files.write(stream, {piece.data(), got}, error) != got)
+            return false;
+    }
+    if (source.bad()) {
+        error = std::make_error_code(std::errc::io_error);
+        return false;
+    }
+    return true;
+}
+
+// Writes the bytes (and the old file's tail when asked) and makes sure they
+// reached the disc before the rename; otherwise a crash could leave an empty
+// file in place of the old one.
 bool writeToDisc(FileOperations& files, const fs::path& file, std::string_view bytes,
-                 std::error_code& error)
+                 const fs::path& old, OldTail tail, std::error_code& error)
 {
     std::FILE* stream = files.open(file, error);
     if (stream == nullptr)
         return false;
     const bool written =
-        files.write(stream, bytes, error) == bytes.size() && files.flushToDisc(stream, error);
+        files.write(stream, bytes, error) == bytes.size() &&
+        (tail == OldTail::Drop || copyTail(files, stream, old, bytes.size(), error)) &&
+        files.flushToDisc(stream, error);
     std::error_code closeError;
     const bool closed = files.close(stream, closeError);
     if (written && !closed)
@@ -119,14 +151,34 @@ void FileOperations::remove(const fs::path& file)
     fs::remove(file, ignored);
 }
 
-bool replaceFileContents(const fs::path& file, std::string_view bytes, std::string& reason)
+bool FileOperations::mayReplace(const fs::path& file, std::error_code& error)
 {
-    FileOperations disc;
-    return replaceFileContents(file, bytes, reason, disc);
+    std::error_code missing;
+    const fs::file_status status = fs::status(file, missing);
+    if (!fs::exists(status))
+        return true;
+    if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) {
+        error = std::make_error_code(std::errc::permission_denied);
+        return false;
+    }
+#ifndef _WIN32
+    if (access(file.c_str(), W_OK) != 0) {
+        error = lastError();
+        return false;
+    }
+#endif
+    return true;
 }
 
 bool replaceFileContents(const fs::path& file, std::string_view bytes, std::string& reason,
-                         FileOperations& files)
+                         OldTail tail)
+{
+    FileOperations disc;
+    return replaceFileContents(file, bytes, reason, disc, tail);
+}
+
+bool replaceFileContents(const fs::path& file, std::string_view bytes, std::string& reason,
+                         FileOperations& files, OldTail tail)
 {
     std::error_code error;
     fs::path target = file;
@@ -134,9 +186,13 @@ bool replaceFileContents(const fs::path& file, std::string_view bytes, std::stri
         reason = reasonOf(error);
         return false;
     }
+    if (!files.mayReplace(target, error)) {
+        reason = "the file is write-protected (" + reasonOf(error) + ")";
+        return false;
+    }
     fs::path temporary = target;
-    temporary += ".new~";
-    if (!writeToDisc(files, temporary, bytes, error)) {
+    temporary += temporaryFileEnding;
+    if (!writeToDisc(files, temporary, bytes, target, tail, error)) {
         reason = reasonOf(error);
         files.remove(temporary);
         return false;

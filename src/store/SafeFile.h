@@ -33,18 +33,36 @@ public:
 
     // Removes the file if it is there.
     virtual void remove(const std::filesystem::path& file);
+
+    // Whether an existing file may be replaced: false, with the reason, when
+    // it is write-protected. Its permission bits are asked as well as the
+    // system, which lets the superuser past any protection.
+    virtual bool mayReplace(const std::filesystem::path& file, std::error_code& error);
+};
+
+// What happens to the bytes of an existing file beyond the new contents.
+enum class OldTail {
+    Drop, // the file holds the new bytes and nothing else
+    Keep, // a longer file keeps its bytes past the new ones, as a write in place would
 };
 
 // Replaces a file's whole contents so that a crash leaves either the old file
 // or the new one, never a torn one: the bytes go to a temporary file beside
 // it, are flushed to disc and renamed over it. A symbolic link is written
-// through, and the old file's permissions are kept. On failure the old file is
-// untouched, the temporary file is gone and `reason` says why.
+// through, and the old file's permissions are kept. A write-protected file is
+// not replaced. A kept tail is copied a piece at a time, so a huge file costs
+// no more memory than a small one. On failure the old file is untouched, the
+// temporary file is gone and `reason` says why.
 [[nodiscard]] bool replaceFileContents(const std::filesystem::path& file, std::string_view bytes,
-                                       std::string& reason);
+                                       std::string& reason, OldTail tail = OldTail::Drop);
 
 // The same, doing its file operations through `files`.
 [[nodiscard]] bool replaceFileContents(const std::filesystem::path& file, std::string_view bytes,
-                                       std::string& reason, FileOperations& files);
+                                       std::string& reason, FileOperations& files,
+                                       OldTail tail = OldTail::Drop);
+
+// The ending of the temporary file beside a file being replaced; one left by
+// a crash holds nothing that the file itself does not.
+inline constexpr std::string_view temporaryFileEnding = ".new~";
 
 } // namespace purrlodge

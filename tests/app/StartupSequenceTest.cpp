@@ -34,7 +34,9 @@ protected:
         index.count.set(2);
         index.backupReminderMode.set(7);
         index.entries[1].key.set("Smith");
+        index.entries[1].code.set("SmithAnn");
         index.entries[2].key.set("Adams");
+        index.entries[2].code.set("AdamsBob");
         ASSERT_TRUE(writeIndex(files, index));
         EstablishmentRecord establishment{};
         establishment.name.set("Whiskers Lodge");

@@ -45,8 +45,8 @@ protected:
 
     FormVerdict ok(const ClientForm& form)
     {
-        return acceptClientForm(form, {folder, index, client, draw, fakes.clock, fakes.ui, 2009},
-                                questions);
+        return acceptClientForm(
+            form, {folder, index, client, code, draw, fakes.clock, fakes.ui, 2009}, questions);
     }
 
     // Presses OK on a form that must stay open with exactly this message.
@@ -91,6 +91,7 @@ protected:
     DataFolder folder{temp.path(), fakes.ui};
     ClientIndex index{};
     ClientRecord client{};
+    std::string code; // the current client's index code
     RandomDraw draw{fakes.random, fakes.clock};
     testing::ScriptedClientQuestions questions;
 };

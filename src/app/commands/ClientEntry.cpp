@@ -18,8 +18,8 @@ void fillForm(Session& session, ClientEntryQuestions& questions, const ClientFor
 
 ClientFormContext clientFormContext(Session& session)
 {
-    return {session.folder,      session.index,    session.client,     session.draw,
-            session.ports.clock, session.ports.ui, session.currentYear};
+    return {session.folder, session.index,       session.client,   session.clientCode,
+            session.draw,   session.ports.clock, session.ports.ui, session.currentYear};
 }
 
 void newClient(Session& session, ClientEntryQuestions& questions)

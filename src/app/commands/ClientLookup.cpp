@@ -37,8 +37,8 @@ void globalSearch(Session& session, ClientLookupQuestions& questions)
     questions.showGlobalSearchResults(result, [&session, &questions](const std::string& line) {
         const std::string code = codeOfResultLine(line);
         ClientRecord client{};
-        readClientRecord(session.folder, code, client);
-        showClientDetails(session, questions, client, code);
+        if (readListedClient(session, code, client))
+            showClientDetails(session, questions, client, code);
     });
 }
 

@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "clients/ClientFinder.h"
+#include "store/ClientRecord.h"
 
 namespace purrlodge {
 
@@ -54,7 +56,14 @@ public:
 std::optional<FinderMatch> findClient(Session& session, FinderQuestions& questions, int commandId);
 
 // Makes the chosen client the current one: its client and stay records are
-// read into the session.
-void chooseClient(Session& session, const FinderMatch& match);
+// read into the session and its index code kept. A code that cannot name a
+// file, or a client whose record file is missing, is told to the person
+// instead and the session is left as it was; false then.
+bool chooseClient(Session& session, const FinderMatch& match);
+
+// Reads the client that the index names by `code` into `client`, telling the
+// person instead when the code cannot name a file or the record file is
+// missing; false then, with `client` cleared.
+bool readListedClient(Session& session, std::string_view code, ClientRecord& client);
 
 } // namespace purrlodge
