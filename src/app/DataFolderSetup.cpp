@@ -17,7 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t maxTypedFolderLength = 80;
 constexpr std::string_view setDefaultDirectoryTitle = "Set Default Directory";
 
 // The index name as the dialogs look for it; the look-up ignores case.
@@ -123,8 +122,20 @@ std::string windowCaption(const std::string& currentDir)
 std::string dataFolderFromTyped(std::string_view typed)
 {
     // An empty entry becomes the bare separator, as it always has.
-    const std::string folder(typed.substr(0, maxTypedFolderLength));
-    return folder.empty() ? std::string(1, folderSeparator) : withTrailingSeparator(folder);
+    return typed.empty() ? std::string(1, folderSeparator) : withTrailingSeparator(std::string(typed));
+}
+
+std::optional<Message> dataFolderTooLong(std::string_view typed)
+{
+    const std::string folder = dataFolderFromTyped(typed);
+    if (folder.size() <= maxDataFolderLength)
+        return std::nullopt;
+    return Message{"The folder name is too long: " + std::to_string(folder.size()) +
+                       " characters with its final '" + std::string(1, folderSeparator) +
+                       "', and a data folder can have at most " +
+                       std::to_string(maxDataFolderLength) +
+                       ".\n\nPlease choose a folder with a shorter name.",
+                   "Folder Name Too Long", MessageIcon::Exclamation};
 }
 
 bool holdsClientIndex(Ui& ui, const std::string& folder)
@@ -133,29 +144,43 @@ bool holdsClientIndex(Ui& ui, const std::string& folder)
     return probe.existsIgnoringCase(indexProbeName);
 }
 
-int acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
-                         DataFolderQuestions& questions)
+std::optional<int> acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
+                                        DataFolderQuestions& questions)
 {
+    if (const std::optional<Message> refusal = dataFolderTooLong(typedFolder)) {
+        ui.showMessage(*refusal);
+        return std::nullopt;
+    }
+    const Message notRegistered{"The directory was not registered",
+                                std::string(setDefaultDirectoryTitle)};
     const std::string folder = dataFolderFromTyped(typedFolder);
     if (holdsClientIndex(ui, folder)) {
         if (!questions.askDirectoryCheck()) {
-            ui.showMessage(
-                {"The directory was not registered", std::string(setDefaultDirectoryTitle)});
+            ui.showMessage(notRegistered);
             return 0;
         }
         // Registered here with a request to quit with code 0; the person then
         // sees the confirmation a second time from the new-folder steps below,
         // whose request to quit with code 1 replaces the first.
-        if (!registerDataFolder(profile, ui, folder))
+        if (!registerDataFolder(profile, ui, folder)) {
+            ui.showMessage(notRegistered);
             return 0;
+        }
     }
     makeFolderChain(folder);
-    return registerDataFolder(profile, ui, folder) ? 1 : 0;
+    if (registerDataFolder(profile, ui, folder))
+        return 1;
+    ui.showMessage(notRegistered);
+    return 0;
 }
 
 std::optional<int> acceptChangeDataSource(const std::string& typedFolder, Profile& profile, Ui& ui,
                                           DataFolderQuestions& questions)
 {
+    if (const std::optional<Message> refusal = dataFolderTooLong(typedFolder)) {
+        ui.showMessage(*refusal);
+        return std::nullopt;
+    }
     const std::string folder = dataFolderFromTyped(typedFolder);
     if (makeFolderChain(folder) != 1) {
         if (!holdsClientIndex(ui, folder)) {

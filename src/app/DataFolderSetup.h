@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "ports/Message.h"
+
 namespace purrlodge {
 
 class Profile;
@@ -30,22 +32,31 @@ public:
 // folder as stored, even when empty.
 [[nodiscard]] std::string windowCaption(const std::string& currentDir);
 
-// The folder as typed (up to 80 characters), ending in the native separator.
+// The folder as typed, ending in the native separator.
 [[nodiscard]] std::string dataFolderFromTyped(std::string_view typed);
+
+// The longest data folder the settings can hold, its final separator included.
+inline constexpr std::size_t maxDataFolderLength = 80;
+
+// The message refusing a typed folder that, with its final separator, is too
+// long for the settings to hold; nothing when it fits. A folder cut short
+// would put every file somewhere else.
+[[nodiscard]] std::optional<Message> dataFolderTooLong(std::string_view typed);
 
 // Whether the folder holds a client index, its name compared without regard to
 // case so that a data set copied from a case-blind file system is recognised.
 [[nodiscard]] bool holdsClientIndex(Ui& ui, const std::string& folder);
 
 // Directory Setup OK: registers the typed folder, or not, and returns the code
-// the program must quit with (it always quits). The person is told the folder
-// is registered only when CurrentDir was written.
-int acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
-                         DataFolderQuestions& questions);
+// the program must quit with (it always quits), or nothing when the folder is
+// too long and the dialog stays open. The person is told the folder is
+// registered only when CurrentDir was written, and that it was not otherwise.
+std::optional<int> acceptDirectorySetup(const std::string& typedFolder, Profile& profile, Ui& ui,
+                                        DataFolderQuestions& questions);
 
 // Change Data Source (DIALOG 30) OK: the quit code once the folder is
-// registered, nothing when the dialog stays open (also when CurrentDir could
-// not be written).
+// registered, nothing when the dialog stays open (a folder too long, or
+// CurrentDir not written).
 std::optional<int> acceptChangeDataSource(const std::string& typedFolder, Profile& profile, Ui& ui,
                                           DataFolderQuestions& questions);
 

@@ -68,11 +68,17 @@ std::optional<int> chooseDataFolder(Session& session, StartupQuestions& question
         session.folder.setPath(withTrailingSeparator(currentDir));
         return std::nullopt;
     }
-    const std::optional<std::string> typed = questions.askDirectorySetup(suggestedDataFolder);
-    if (!typed)
-        return 1;
-    // A registered folder is used from the next start; this run ends here.
-    return acceptDirectorySetup(*typed, session.ports.profile, session.ports.ui, questions);
+    std::string shown = suggestedDataFolder;
+    for (;;) {
+        const std::optional<std::string> typed = questions.askDirectorySetup(shown);
+        if (!typed)
+            return 1;
+        // A registered folder is used from the next start; this run ends here.
+        if (const std::optional<int> quitCode =
+                acceptDirectorySetup(*typed, session.ports.profile, session.ports.ui, questions))
+            return quitCode;
+        shown = *typed; // refused: asked again with the folder as typed
+    }
 }
 
 // Step 5.

@@ -27,7 +27,7 @@ protected:
     {
         return acceptChangeDataSource(typed, fake.profile, fake.ui, asked);
     }
-    int setUp(const std::string& typed)
+    std::optional<int> setUp(const std::string& typed)
     {
         return acceptDirectorySetup(typed, fake.profile, fake.ui, asked);
     }
@@ -40,9 +40,11 @@ protected:
 
 TEST_F(DataFolderSetupTest, DirectorySetupRegistersAFolderWithDataOnlyAfterDirectoryCheck)
 {
-    fake.profile.failWrites = true; // nothing is said until CurrentDir was written
+    fake.profile.failWrites = true; // no confirmation until CurrentDir was written
     EXPECT_EQ(setUp(temp.path() + "cats/data"), 0);
-    EXPECT_TRUE(fake.ui.messages.empty());
+    EXPECT_EQ(fake.ui.messages, (std::vector<Message>{{"The directory was not registered",
+                                                       "Set Default Directory"}}));
+    fake.ui.messages.clear();
     fake.profile.failWrites = false;
     const std::string folder = temp.path() + "cats/data/";
     const Message confirmation{"OK, '" + folder +
@@ -64,6 +66,25 @@ TEST_F(DataFolderSetupTest, DirectorySetupRegistersAFolderWithDataOnlyAfterDirec
     EXPECT_EQ(fake.ui.messages, (std::vector<Message>{{"The directory was not registered",
                                                        "Set Default Directory"}}));
     EXPECT_TRUE(fake.profile.writes.empty());
+}
+
+TEST_F(DataFolderSetupTest, AFolderTooLongForTheSettingsIsRefusedNotCut)
+{
+    // 80 characters with the separator fit; one more would be cut on reading.
+    const std::string base = temp.path();
+    const std::string fits = base + std::string(maxDataFolderLength - 1 - base.size(), 'f');
+    const std::string tooLong = fits + "g";
+    for (const bool changing : {false, true}) {
+        SCOPED_TRACE(changing);
+        fake.ui.messages.clear();
+        fake.profile.writes.clear();
+        EXPECT_EQ(changing ? change(tooLong) : setUp(tooLong), std::nullopt);
+        EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Folder Name Too Long"});
+        EXPECT_TRUE(fake.profile.writes.empty());
+        EXPECT_FALSE(fs::exists(tooLong));
+    }
+    EXPECT_EQ(setUp(fits), 1);
+    EXPECT_EQ(fake.profile.read("CurrentDir"), fits + "/");
 }
 
 TEST_F(DataFolderSetupTest, ChangeDataSourceAsksOnlyAboutExistingFolders)

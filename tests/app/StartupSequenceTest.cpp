@@ -8,6 +8,7 @@
 #include "app/PictureRotation.h"
 #include "app/Session.h"
 #include "store/ClientFiles.h"
+#include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
@@ -174,6 +175,68 @@ TEST_F(StartupSequenceTest, AFullStartLoadsTheDataSetSortsTheIndexAndReadsTheTog
     EXPECT_EQ(session.shell.pictureTable[2], (std::pair{30, 65}));
     EXPECT_FALSE(session.shell.ratesUsable);
     EXPECT_TRUE(session.shell.digitalClock && !session.shell.pictureNoteIndicator);
+}
+
+TEST_F(StartupSequenceTest, ADamagedIndexIsRepairedFromItsEntriesAfterACopyIsKept)
+{
+    setUpDataSet();
+    // Stored by hand without the separator: the files must still go inside.
+    fake.profile.values["currentdir"] = data.root().string();
+    std::ofstream(data.root() / "SmithAnn.DAT.new~") << "half a record";
+    ClientIndex damaged{};
+    readIndex(files, damaged);
+    damaged.count.set(-4);
+    damaged.entries[3].key.set("Cole");
+    damaged.entries[3].code.set("../esc");
+    damaged.entries[5].key.set("Brown"); // a client past a blank entry is kept too
+    damaged.entries[5].code.set("BrownCat");
+    ASSERT_TRUE(writeIndex(files, damaged));
+
+    EXPECT_EQ(run(), Outcome(true, 0));
+    EXPECT_EQ(session.folder.path(), data.path());
+    EXPECT_EQ(fake.ui.titles(), (std::vector<std::string>{"Client List Repaired", "Data Error"}));
+    EXPECT_NE(fake.ui.messages[0].text.find("the number of clients was -4"), std::string::npos);
+    EXPECT_NE(fake.ui.messages[0].text.find("kept as FIDEX.BAD"), std::string::npos);
+    EXPECT_NE(fake.ui.messages[1].text.find("entry 3 (Cole): \"../esc\""), std::string::npos)
+        << fake.ui.messages[1].text;
+    EXPECT_EQ(testing::fileBytes(data.root() / "FIDEX.BAD"), testing::bytesOf(damaged));
+    EXPECT_FALSE(std::filesystem::exists(data.root() / "SmithAnn.DAT.new~"));
+    EXPECT_FALSE(std::filesystem::exists(data.root().string() + "FIDEX.CTL"));
+
+    ClientIndex onDisk{};
+    readIndex(files, onDisk);
+    ASSERT_EQ(onDisk.count.get(), 4);
+    std::vector<std::string> keys;
+    for (int entry = 1; entry <= 4; ++entry)
+        keys.push_back(onDisk.entries[entry].key.str());
+    EXPECT_EQ(keys, (std::vector<std::string>{"Adams", "Brown", "Cole", "Smith"}));
+
+    // Repaired, the index needs nothing more at the next start.
+    fake.ui.messages.clear();
+    run();
+    EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Data Error"});
+}
+
+TEST_F(StartupSequenceTest, AnIndexCutShortOrCountingTooManyKeepsEveryClient)
+{
+    setUpDataSet();
+    ClientIndex index{};
+    readIndex(files, index);
+    for (const std::int32_t count : {5, 70000}) {
+        SCOPED_TRACE(count);
+        index.count.set(count);
+        const std::string bytes = testing::bytesOf(index);
+        // Cut after the second entry: the rest reads as blank entries.
+        std::ofstream(data.root() / "FIDEX.CTL", std::ios::binary | std::ios::trunc)
+            << bytes.substr(0, 16 + 3 * 34);
+        fake.ui.messages.clear();
+        EXPECT_EQ(run(), Outcome(true, 0));
+        ASSERT_EQ(fake.ui.titles(), std::vector<std::string>{"Client List Repaired"});
+        EXPECT_EQ(session.index.count.get(), 2);
+        EXPECT_EQ(session.index.entries[1].key.str(), "Adams");
+        EXPECT_EQ(std::filesystem::file_size(data.root() / "FIDEX.CTL"), sizeof(ClientIndex));
+    }
+    EXPECT_TRUE(std::filesystem::exists(data.root() / "FIDEX1.BAD")) << "the first copy stays";
 }
 
 } // namespace
