@@ -122,7 +122,8 @@ std::string windowCaption(const std::string& currentDir)
 std::string dataFolderFromTyped(std::string_view typed)
 {
     // An empty entry becomes the bare separator, as it always has.
-    return typed.empty() ? std::string(1, folderSeparator) : withTrailingSeparator(std::string(typed));
+    return typed.empty() ? std::string(1, folderSeparator)
+                         : withTrailingSeparator(std::string(typed));
 }
 
 std::optional<Message> dataFolderTooLong(std::string_view typed)

@@ -128,6 +128,54 @@ TEST_F(ClientCommandsTest, NewClientAndEditClientDetailsSaveTheFormOverTheSessio
     EXPECT_EQ(questions.clientForm.shown.size(), 2U) << "the form did not open";
 }
 
+TEST_F(ClientCommandsTest, AClientIsSavedUnderItsIndexCodeAndNeverWhereTheIndexCannotSay)
+{
+    addClient("Adams", "AdamsBob");
+    addClient("Smith", "SmithAnn");
+    // Anne's record names Bob's code: editing her must not
+    // touch Bob's file.
+    ClientRecord anne{};
+    readClientRecord(session.folder, "SmithAnn", anne);
+    anne.code.set("AdamsBob");
+    ASSERT_TRUE(writeClientRecord(session.folder, "SmithAnn", anne));
+    const std::string bob = fileBytes(temp.root() / "AdamsBob.DAT");
+
+    questions.names = {FinderEntry{"Smith"}};
+    questions.matches = {0};
+    ClientForm edited = clientFormFrom(anne, fakes.clock);
+    edited.firstName = "Anne";
+    edited.known = "2";
+    questions.clientForm.entries = {edited};
+    editClientDetails(session, questions);
+    EXPECT_EQ(fileBytes(temp.root() / "AdamsBob.DAT"), bob);
+    ClientRecord saved{};
+    readClientRecord(session.folder, "SmithAnn", saved);
+    EXPECT_EQ(saved.firstName.str(), "Anne");
+    EXPECT_EQ(saved.code.str(), "SmithAnn") << "the record's code is put right";
+
+    // A code that would reach outside the folder, and a record file that is
+    // gone, are told when chosen; nothing is read, shown or written.
+    appendEntry(session.index, "Cole", "../Cole");
+    appendEntry(session.index, "Cole", "ColeGone");
+    const std::string current = bytesOf(session.client);
+    for (const int row : {0, 1}) {
+        fakes.ui.messages.clear();
+        questions.names = {FinderEntry{"Cole"}};
+        questions.matches = {row};
+        questions.clientForm.entries = {edited};
+        const std::size_t formsShown = questions.clientForm.shown.size();
+        editClientDetails(session, questions);
+        EXPECT_EQ(fakes.ui.titles(), Rows{"Data Error"});
+        EXPECT_NE(fakes.ui.messages[0].text.find("(Cole, entry " + std::to_string(3 + row)),
+                  std::string::npos)
+            << fakes.ui.messages[0].text;
+        EXPECT_EQ(questions.clientForm.shown.size(), formsShown);
+        EXPECT_EQ(bytesOf(session.client), current);
+    }
+    EXPECT_FALSE(std::filesystem::exists(temp.root() / "ColeGone.DAT"));
+    EXPECT_FALSE(std::filesystem::exists(temp.root().parent_path() / "Cole.DAT"));
+}
+
 TEST_F(ClientCommandsTest, LookUpsShowTheFilesOfTheCodeFoundAndGlobalSearchChoosesNoClient)
 {
     addClient("Adams", "AdamsBob");
