@@ -7,6 +7,7 @@
 
 #include "store/SafeFile.h"
 #include "store/TextHelpers.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -69,23 +70,80 @@ bool isBlank(std::string_view content)
     return trimmed(content).empty();
 }
 
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view utf16LEMark = "\xFF\xFE";
+constexpr std::string_view utf16BEMark = "\xFE\xFF";
+
+// UTF-16 in the given byte order to Windows-1252; a character 1252 cannot
+// hold, a lone surrogate and an odd last byte become '?'.
+std::string windows1252FromUtf16(std::string_view bytes, bool bigEndian)
+{
+    std::string text;
+    text.reserve(bytes.size() / 2);
+    for (std::size_t i = 0; i < bytes.size(); i += 2) {
+        if (i + 1 == bytes.size()) {
+            text += '?';
+            break;
+        }
+        const auto first = static_cast<unsigned char>(bytes[i]);
+        const auto second = static_cast<unsigned char>(bytes[i + 1]);
+        const char32_t unit = bigEndian ? (first << 8U) | second : (second << 8U) | first;
+        if (unit >= 0xD800 && unit <= 0xDFFF) {
+            // A pair stands for a character beyond 1252 in any case; skip its second half.
+            if (unit <= 0xDBFF && i + 3 < bytes.size())
+                i += 2;
+            text += '?';
+            continue;
+        }
+        text += windows1252Of(unit);
+    }
+    return text;
+}
+
+std::string utf16FromWindows1252(std::string_view text, bool bigEndian)
+{
+    std::string bytes;
+    bytes.reserve(text.size() * 2);
+    for (const char c : text) {
+        const char32_t unit = unicodeOfWindows1252(static_cast<unsigned char>(c));
+        const char high = static_cast<char>((unit >> 8U) & 0xFFU);
+        const char low = static_cast<char>(unit & 0xFFU);
+        bytes += bigEndian ? high : low;
+        bytes += bigEndian ? low : high;
+    }
+    return bytes;
+}
+
 } // namespace
 
-IniFile IniFile::parse(std::string_view text)
+IniFile IniFile::parse(std::string_view bytes)
 {
     IniFile file;
+    std::string decoded;
+    if (bytes.starts_with(utf8Mark)) {
+        file.encoding_ = Encoding::Utf8;
+        decoded = windows1252FromUtf8(bytes.substr(utf8Mark.size()));
+    } else if (bytes.starts_with(utf16LEMark) || bytes.starts_with(utf16BEMark)) {
+        const bool bigEndian = bytes.starts_with(utf16BEMark);
+        file.encoding_ = bigEndian ? Encoding::Utf16BE : Encoding::Utf16LE;
+        decoded = windows1252FromUtf16(bytes.substr(2), bigEndian);
+    } else {
+        decoded = bytes;
+    }
+    const std::string_view text = decoded;
+
     std::size_t start = 0;
     while (start < text.size()) {
-        const auto newline = text.find('\n', start);
-        if (newline == std::string_view::npos) {
+        const auto lineEnd = text.find_first_of("\r\n", start);
+        if (lineEnd == std::string_view::npos) {
             file.lines_.push_back({std::string(text.substr(start)), {}});
             break;
         }
-        const bool crlf = newline > start && text[newline - 1] == '\r';
-        const std::size_t contentEnd = crlf ? newline - 1 : newline;
-        file.lines_.push_back({std::string(text.substr(start, contentEnd - start)),
-                               crlf ? std::string("\r\n") : std::string("\n")});
-        start = newline + 1;
+        const bool crlf = text.substr(lineEnd, 2) == "\r\n";
+        const std::size_t endingLength = crlf ? 2 : 1;
+        file.lines_.push_back({std::string(text.substr(start, lineEnd - start)),
+                               std::string(text.substr(lineEnd, endingLength))});
+        start = lineEnd + endingLength;
     }
     if (!file.lines_.empty() && !file.lines_.front().ending.empty())
         file.newline_ = file.lines_.front().ending;
@@ -101,6 +159,10 @@ std::optional<IniFile> IniFile::load(const fs::path& file, std::string& reason)
         reason = std::make_error_code(std::errc::is_a_directory).message();
         return std::nullopt;
     }
+    if (const std::uintmax_t size = fs::file_size(file, missing); !missing && size > largestFile) {
+        reason = "the file is " + std::to_string(size) + " bytes long, far too long for settings";
+        return std::nullopt;
+    }
     std::ifstream stream(file, std::ios::binary);
     std::string bytes;
     if (stream)
@@ -114,10 +176,20 @@ std::optional<IniFile> IniFile::load(const fs::path& file, std::string& reason)
 
 std::string IniFile::text() const
 {
-    std::string bytes;
+    std::string text;
     for (const Line& line : lines_)
-        bytes += line.content + line.ending;
-    return bytes;
+        text += line.content + line.ending;
+    switch (encoding_) {
+    case Encoding::Windows1252:
+        return text;
+    case Encoding::Utf8:
+        return std::string(utf8Mark) + utf8FromWindows1252(text);
+    case Encoding::Utf16LE:
+        return std::string(utf16LEMark) + utf16FromWindows1252(text, false);
+    case Encoding::Utf16BE:
+        return std::string(utf16BEMark) + utf16FromWindows1252(text, true);
+    }
+    return text;
 }
 
 std::optional<std::size_t> IniFile::findSection(std::string_view section) const

@@ -5,6 +5,7 @@
 
 #include "app/IniFile.h"
 #include "store/TextHelpers.h"
+#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -31,6 +32,14 @@ std::string IniProfile::read(std::string_view key) const
     value.resize(std::min(value.size(), equalsIgnoringCase(key, "CurrentDrive") ? driveValueLength
                                                                                 : valueLength));
     return value;
+}
+
+std::optional<std::string> IniProfile::unreadable() const
+{
+    std::string reason;
+    if (IniFile::load(file_, reason))
+        return std::nullopt;
+    return windows1252Of(file_) + ": " + reason;
 }
 
 bool IniProfile::write(std::string_view key, std::string_view value)

@@ -37,6 +37,8 @@ public:
     // the file is left unchanged, the error handler is told and false returned.
     [[nodiscard]] bool write(std::string_view key, std::string_view value) override;
 
+    [[nodiscard]] std::optional<std::string> unreadable() const override;
+
     [[nodiscard]] const std::filesystem::path& file() const { return file_; }
 
 private:

@@ -194,6 +194,17 @@ void checkRatesAndEuroRate(Session& session)
 StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
                                   const std::string& suggestedDataFolder)
 {
+    // Without its settings the program cannot tell where the data is; asking
+    // again as on a first run would register a folder it cannot save.
+    if (const std::optional<std::string> reason = session.ports.profile.unreadable()) {
+        session.ports.ui.showMessage(
+            {"The settings file could not be read:\n" + *reason +
+                 "\n\nPurrlodge keeps the name of your data folder there, so it cannot start. "
+                 "Nothing has been changed.\nPlease put the file right, or move it away to "
+                 "choose the data folder afresh.",
+             "Settings Error", MessageIcon::Stop});
+        return {false, 1};
+    }
     recordProgramFolder(session);
 
     const int dayOfMonth = prepareShellState(session);

@@ -27,7 +27,8 @@ struct StartupOutcome {
     int quitCode = 0;
 };
 
-// The main window's set-up, run once before it is shown. Records the program
+// The main window's set-up, run once before it is shown. A settings file that
+// cannot be read ends it at once with a message, nothing written. Records the program
 // folder, then runs the fifteen steps in order over the session and its ports:
 // shell state and current year, picture rotation, printing font, data folder
 // (Directory Setup when none is set or session.shell.switches asks for it;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,10 @@ public:
     // Whether the value reached the file. A failure has been told to the
     // person ("File Error") and the file keeps its old value.
     [[nodiscard]] virtual bool write(std::string_view key, std::string_view value) = 0;
+
+    // Why the settings cannot be read at all, naming the file; nothing when
+    // they can (a file not made yet reads as empty settings).
+    [[nodiscard]] virtual std::optional<std::string> unreadable() const = 0;
 };
 
 } // namespace purrlodge

@@ -1,5 +1,6 @@
 #include "app/IniFile.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -72,6 +73,34 @@ TEST(IniFileTest, OfTwoEqualSectionsOrKeysTheFirstCountsAndEachLineKeepsItsEndin
     EXPECT_EQ(ini.text(), "[Purrlodge]\r\nA=1\nB=2\r\n");
 }
 
+TEST(IniFileTest, ReadsMarkedEncodingsAndEveryLineEndAndWritesThemBackAsTheyWere)
+{
+    // "Caf\u00e9" in each encoding the file may come in; the section is seen in all.
+    std::string utf16le = "\xFF\xFE";
+    std::string utf16be = "\xFE\xFF";
+    for (const char c : std::string("[Purrlodge]\r\nDir=Caf\xE9\r\n")) {
+        utf16le += std::string{c, '\0'};
+        utf16be += std::string{'\0', c};
+    }
+    for (const std::string& file : {std::string("\xEF\xBB\xBF[Purrlodge]\nDir=Caf\xC3\xA9\n"),
+                                    std::string("[Purrlodge]\rDir=Caf\xE9\r"),
+                                    std::string("[Purrlodge]\r\nDir=Caf\xE9"), utf16le, utf16be}) {
+        SCOPED_TRACE(file);
+        IniFile ini = IniFile::parse(file);
+        EXPECT_EQ(ini.value("Purrlodge", "Dir"), "Caf\xE9");
+        EXPECT_EQ(ini.text(), file) << "unchanged, the file comes back byte for byte";
+        ini.setValue("Purrlodge", "New", "\xA3");
+        const IniFile again = IniFile::parse(ini.text());
+        EXPECT_EQ(again.value("Purrlodge", "Dir"), "Caf\xE9");
+        EXPECT_EQ(again.value("Purrlodge", "New"), "\xA3");
+        EXPECT_EQ(ini.text().substr(0, 2), file.substr(0, 2)) << "the mark is kept";
+    }
+    // A lone CR ends a line and new lines follow it.
+    IniFile cr = IniFile::parse("[Purrlodge]\rA=1\r");
+    cr.setValue("Purrlodge", "B", "2");
+    EXPECT_EQ(cr.text(), "[Purrlodge]\rA=1\rB=2\r");
+}
+
 class IniProfileTest : public ::testing::Test {
 protected:
     IniProfile profile(const std::filesystem::path& file)
@@ -119,6 +148,23 @@ TEST_F(IniProfileTest, AFailedWriteIsReportedAndChangesNothing)
     std::string reason;
     EXPECT_FALSE(IniFile::parse("[Purrlodge]\n").save(blocked, reason));
     EXPECT_FALSE(reason.empty());
+}
+
+TEST_F(IniProfileTest, AFileThatCannotBeReadIsToldAndNeverReplaced)
+{
+    const auto file = folder.root() / "HEARTH.INI";
+    EXPECT_EQ(profile(file).unreadable(), std::nullopt) << "not made yet: empty settings";
+    std::filesystem::create_directory(file);
+    const std::optional<std::string> reason = profile(file).unreadable();
+    ASSERT_TRUE(reason);
+    EXPECT_EQ(reason->rfind(file.string() + ": ", 0), 0u) << *reason;
+    std::filesystem::remove(file);
+
+    // Far too long for settings: refused without reading it into memory.
+    std::ofstream(file, std::ios::binary) << std::string(IniFile::largestFile + 1, ';');
+    EXPECT_TRUE(profile(file).unreadable());
+    EXPECT_FALSE(profile(file).write("CurrentDir", "x"));
+    EXPECT_EQ(std::filesystem::file_size(file), IniFile::largestFile + 1);
 }
 
 TEST(SettingsLocationTest, PrefersAnAbsoluteXdgFolderThenHome)

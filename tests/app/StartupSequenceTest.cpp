@@ -74,6 +74,15 @@ TEST_F(StartupSequenceTest, DirectorySetupIsAskedWithoutCurrentDirOrWhenForcedAn
     EXPECT_EQ(fake.profile.read("CurrentDir"), data.path() + "cats/");
 }
 
+TEST_F(StartupSequenceTest, UnreadableSettingsEndTheRunBeforeAnythingIsAskedOrWritten)
+{
+    fake.profile.unreadableReason = "HEARTH.INI: Permission denied";
+    EXPECT_EQ(run(), Outcome(false, 1));
+    EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Settings Error"});
+    EXPECT_TRUE(questions.directorySetupSuggestions.empty());
+    EXPECT_TRUE(fake.profile.writes.empty());
+}
+
 TEST_F(StartupSequenceTest, AMissingIndexIsCreatedAndAForeignOneEndsTheRunUntouched)
 {
     setUpDataSet();

@@ -80,7 +80,13 @@ struct FakeProfile : Profile {
         return true;
     }
 
+    [[nodiscard]] std::optional<std::string> unreadable() const override
+    {
+        return unreadableReason;
+    }
+
     bool failWrites = false; // every write fails, as on a read-only settings file
+    std::optional<std::string> unreadableReason; // set: the file cannot be read
     std::map<std::string, std::string> values;
     std::vector<std::pair<std::string, std::string>> writes;
 };
