@@ -1,5 +1,6 @@
 #include "clients/OtherCatsList.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include "clients/EarlierCatRecord.h"
@@ -16,8 +17,10 @@ namespace {
 std::ifstream openClientFile(const DataFolder& folder, std::string_view code,
                              std::string_view fileExtension)
 {
-    return std::ifstream(nativePath(folder.fileName(clientFileName(code, fileExtension))),
-                         std::ios::binary);
+    const std::string name = clientFileName(code, fileExtension);
+    if (!isPlainFileName(name))
+        return {}; // never opened: the name would reach outside the data folder
+    return std::ifstream(nativePath(folder.fileName(name)), std::ios::binary);
 }
 
 // "%s, %s, %s, %c, DOB = %s, Notified (%s) = %s", then the note, then a blank line.
@@ -43,18 +46,25 @@ void listEarlierCats(const DataFolder& folder, std::string_view code,
 }
 
 // The note book is a text file of CR LF lines; each non-empty line is listed,
-// a very long one in pieces.
+// a very long one in pieces. A note book is a page of notes: a damaged file
+// of any size is read no further than noteBookLargest bytes.
 void listNoteBook(const DataFolder& folder, std::string_view code, std::vector<std::string>& lines)
 {
     std::ifstream file = openClientFile(folder, code, extension::noteBook);
     if (!file)
         return;
-    std::string line;
-    while (std::getline(file, line)) {
+    std::string text(noteBookLargest, '\0');
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        std::string_view line(text.data() + start, end - start);
         if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        for (std::size_t start = 0; start < line.size(); start += noteBookLineLimit)
-            lines.push_back(line.substr(start, noteBookLineLimit));
+            line.remove_suffix(1);
+        for (std::size_t piece = 0; piece < line.size(); piece += noteBookLineLimit)
+            lines.emplace_back(line.substr(piece, noteBookLineLimit));
+        start = end + 1;
     }
 }
 

@@ -24,6 +24,8 @@ enum class OtherCatsMode {
 
 // A note-book line longer than this is listed in pieces of this length.
 inline constexpr std::size_t noteBookLineLimit = 500;
+// The most of a note book that is read: many pages' worth of notes.
+inline constexpr std::size_t noteBookLargest = 64 * 1024;
 // The most ".XCT" records listed, so a damaged file cannot flood the list.
 inline constexpr int earlierCatsListed = 1000;
 

@@ -83,6 +83,12 @@ TEST(OtherCatsListTest, EachModeListsItsOwnFileThenTheOtherCats)
     expected = {"Needs a quiet pen", std::string(500, 'a'), std::string(500, 'b'), "b"};
     expected.insert(expected.end(), otherCats.begin(), otherCats.end());
     EXPECT_EQ(noteBook.lines, expected);
+
+    // A damaged note book of one endless line is read no further than a page allows.
+    std::ofstream(folder.fileName("SmithAnn.NTS"), std::ios::binary)
+        << std::string(4 * noteBookLargest, 'z');
+    const Lines damaged = list(OtherCatsMode::NoteBook).lines;
+    EXPECT_EQ(damaged.size(), (noteBookLargest + 499) / 500 + otherCats.size());
 }
 
 } // namespace
