@@ -2,12 +2,14 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "ports/Canvas.h"
 #include "ports/Ports.h"
 #include "store/CivilCalendar.h"
 #include "store/TextHelpers.h"
@@ -100,8 +102,39 @@ struct FakeDrives : Drives {
     }
 };
 
+// A printer that records every job and answers from a script (Printed once
+// the script is used up); a job's page is drawn on the canvas set, if any.
 struct FakePrinter : Printer {
+    struct Job {
+        std::string title;
+        bool prompt = false;
+
+        friend bool operator==(const Job&, const Job&) = default;
+    };
+
     [[nodiscard]] bool hasPrinter() const override { return false; }
+    PrintOutcome printPage(const std::string& title, bool prompt,
+                           const std::function<void(Canvas&)>& drawPage) override
+    {
+        jobs.push_back({title, prompt});
+        const PrintOutcome outcome = outcomes.empty() ? PrintOutcome::Printed : outcomes.front();
+        if (!outcomes.empty())
+            outcomes.pop_front();
+        if (outcome == PrintOutcome::Printed && canvas != nullptr)
+            drawPage(*canvas);
+        return outcome;
+    }
+    [[nodiscard]] std::vector<std::string> takeSavedFiles() override
+    {
+        return std::exchange(savedFiles, {});
+    }
+    void setUp() override { ++setUps; }
+
+    std::vector<Job> jobs;
+    std::deque<PrintOutcome> outcomes;
+    Canvas* canvas = nullptr;
+    std::vector<std::string> savedFiles;
+    int setUps = 0;
 };
 
 // One of each fake, wired into a Ports bundle.

@@ -59,6 +59,7 @@ int TApp::run()
     window_ = std::make_unique<TMyWindow>(*session_);
     window_->setWindowTitle(fromWindows1252(windowCaption(profile_.read("CurrentDir"))));
     ui_.setMainWindow(window_.get());
+    printer_.setMainWindow(window_.get());
     QObject::connect(window_.get(), &TMyWindow::quitRequested, window_.get(),
                      [](int exitCode) { QCoreApplication::exit(exitCode); });
     window_->show();
