@@ -9,6 +9,8 @@
 #include "accounts/RatesRecord.h"
 #include "app/ShellState.h"
 #include "ports/Ports.h"
+#include "print/PrintBuffer.h"
+#include "print/PrintDialogRule.h"
 #include "store/ClientIndex.h"
 #include "store/ClientRecord.h"
 #include "store/DataFolder.h"
@@ -46,6 +48,10 @@ public:
     RatesRecord rates{};
     ExchangeRateRecord exchangeRate{};
     AccountRecord account{};
+
+    // The one print buffer, and whether print jobs show the print dialog.
+    PrintBuffer printBuffer;
+    PrintDialogState printDialog;
 
     DateEntryState dates{};
     RandomDraw draw;

@@ -9,6 +9,7 @@
 #include "app/PictureRotation.h"
 #include "app/Session.h"
 #include "clients/ClientFormRules.h"
+#include "print/PrintOptions.h"
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
 #include "store/IndexRepair.h"
@@ -215,6 +216,7 @@ StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
             chooseDataFolder(session, questions, suggestedDataFolder))
         return {false, *quitCode};
     readDisplaySettings(session);
+    session.printDialog.modeInForce = storedPrintDialogMode(session.ports.profile);
     // What a crash left half-written is of no use: the files it was to replace are whole.
     session.folder.removeLeftoverTemporaryFiles();
 

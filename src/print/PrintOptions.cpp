@@ -6,6 +6,7 @@
 #include "accounts/ColourBlock.h"
 #include "accounts/EstablishmentRecord.h"
 #include "ports/Profile.h"
+#include "print/PrintDialogRule.h"
 
 namespace purrlodge {
 

@@ -12,13 +12,6 @@ class Profile;
 struct ColourBlock;
 struct EstablishmentRecord;
 
-// The print dialog's mode: 0 Never, 1 Every Time, 2 1st Print Only.
-enum PrintDialogMode : int {
-    printDialogNever = 0,
-    printDialogEveryTime = 1,
-    printDialogFirstOnly = 2
-};
-
 // The settings key of the mode chosen in Print Dialog Box Option.
 inline constexpr std::string_view printDialogKey = "PrtDialog";
 // The settings key of the names line on the account ("Y" on, anything else off).

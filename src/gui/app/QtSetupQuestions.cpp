@@ -10,6 +10,8 @@
 #include "gui/app/TDlg11.h"
 #include "gui/app/TDlg30.h"
 #include "gui/app/TDlg32.h"
+#include "gui/print/TDlg21.h"
+#include "gui/print/TDlg61.h"
 
 namespace purrlodge {
 
@@ -91,6 +93,21 @@ std::optional<FormVerdict> QtSetupQuestions::fillReceiptNumber(const std::string
                                                                const OkRule<std::string>& onOk)
 {
     TDlg15 dialog(offer, onOk, parent());
+    return run(dialog);
+}
+
+std::optional<FormVerdict> QtSetupQuestions::fillPrintDialogOption(int mode,
+                                                                   const OkRule<int>& onOk)
+{
+    TDlg21 dialog(mode, onOk, parent());
+    return run(dialog);
+}
+
+std::optional<FormVerdict>
+QtSetupQuestions::fillColourPrintingOptions(const ColourPrintingForm& initial,
+                                            const OkRule<ColourPrintingForm>& onOk)
+{
+    TDlg61 dialog(initial, onOk, parent());
     return run(dialog);
 }
 

@@ -6,6 +6,7 @@
 #include "app/StartupSequence.h"
 #include "app/commands/CatterySetup.h"
 #include "app/commands/ChangeDataSet.h"
+#include "app/commands/Printing.h"
 
 namespace purrlodge {
 
@@ -14,7 +15,8 @@ namespace purrlodge {
 // in front.
 class QtSetupQuestions : public StartupQuestions,
                          public ChangeDataSetQuestions,
-                         public CatterySetupQuestions {
+                         public CatterySetupQuestions,
+                         public PrintingQuestions {
 public:
     // mainWindow: the owner of the dialogs when no other dialog is open; none
     // during start-up.
@@ -37,6 +39,11 @@ public:
                                                  const OkRule<StandardExtraForm>& onOk) override;
     std::optional<FormVerdict> fillReceiptNumber(const std::string& offer,
                                                  const OkRule<std::string>& onOk) override;
+
+    std::optional<FormVerdict> fillPrintDialogOption(int mode, const OkRule<int>& onOk) override;
+    std::optional<FormVerdict>
+    fillColourPrintingOptions(const ColourPrintingForm& initial,
+                              const OkRule<ColourPrintingForm>& onOk) override;
 
 private:
     [[nodiscard]] QWidget* parent() const;

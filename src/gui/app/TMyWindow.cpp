@@ -12,6 +12,7 @@
 #include "accounts/ExchangeRateSetup.h"
 #include "app/CommandIds.h"
 #include "app/Session.h"
+#include "app/commands/Printing.h"
 #include "app/commands/ShellToggles.h"
 #include "gui/app/ClockFace.h"
 #include "gui/app/MainMenu.h"
@@ -147,9 +148,20 @@ void TMyWindow::buildCommandTable()
     });
     setChecker(command::showPicNoteIndicator,
                [&session] { return session.shell.pictureNoteIndicator; });
+    setCommand(command::printDialogOnOff,
+               [this] { setPrintDialogOption(session_, setupQuestions_); });
+    setCommand(command::setPrintingOptions,
+               [this] { setPrintingOptions(session_, setupQuestions_); });
+    setCommand(command::setupPrinter, [this] { setupPrinter(session_); });
+    // The blank job runs only once a job has been printed through the dialog.
+    setCommand(command::runPendingPrintout, [this] { runPendingPrintout(session_); });
+    setEnabler(command::runPendingPrintout,
+               [&session] { return session.printDialog.printedWithDialog; });
 
     // Tasks
     setCommand(command::seeClientDetails, [this] { seeClientDetails(session_, clientQuestions_); });
+    clientQuestions_.setDetailsPrinter(
+        [this](const ClientDetailsListing& listing) { printClientDetails(session_, listing); });
     setCommand(command::editClientDetails,
                [this] { editClientDetails(session_, clientQuestions_); });
     setCommand(command::newClient, [this] { newClient(session_, clientQuestions_); });

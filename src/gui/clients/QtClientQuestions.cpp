@@ -90,6 +90,8 @@ void QtClientQuestions::showClientDetails(const ClientDetailsListing& details,
             TDlg52 list(mode == OtherCatsMode::NoteBook ? specialNotes : otherCats, detailsDialog);
             list.exec();
         },
+        printDetails_ ? TDlg12::PrintListing([this, &details] { printDetails_(details); })
+                      : TDlg12::PrintListing(),
         parent());
     dialog.exec();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QPointer>
 #include <QWidget>
 
@@ -34,10 +36,15 @@ public:
     void showGlobalSearchResults(const GlobalSearchResult& result,
                                  const ResultLineAction& showDetails) override;
 
+    // What the full details' Print button does with the listing shown.
+    using DetailsPrinter = std::function<void(const ClientDetailsListing&)>;
+    void setDetailsPrinter(DetailsPrinter printDetails) { printDetails_ = std::move(printDetails); }
+
 private:
     [[nodiscard]] QWidget* parent() const;
 
     QPointer<QWidget> mainWindow_;
+    DetailsPrinter printDetails_;
 };
 
 } // namespace purrlodge

@@ -29,8 +29,10 @@ QPushButton* newButton(const QString& text, const QString& objectName, QDialogBu
 
 } // namespace
 
-TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats, QWidget* parent)
-    : QDialog(parent), openOtherCats_(std::move(openOtherCats))
+TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
+               PrintListing printListing, QWidget* parent)
+    : QDialog(parent), openOtherCats_(std::move(openOtherCats)),
+      printListing_(std::move(printListing))
 {
     setObjectName(QStringLiteral("clientDetailsDialog"));
     setWindowTitle(fromWindows1252(listing.caption));
@@ -48,7 +50,8 @@ TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
     QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     printButton_ = newButton(QStringLiteral("&Print"), QStringLiteral("printButton"), buttons);
-    printButton_->setEnabled(false); // the printed listing is not made yet
+    printButton_->setEnabled(static_cast<bool>(printListing_));
+    connect(printButton_, &QPushButton::clicked, this, [this] { printListing_(); });
     otherCatsButton_ =
         newButton(QStringLiteral("See &Other Cats"), QStringLiteral("otherCatsButton"), buttons);
     otherCatsButton_->setEnabled(listing.otherCatsEnabled);

@@ -24,8 +24,11 @@ public:
     // dialog: this dialog, the owner of the list that opens.
     using OpenOtherCats = std::function<void(QWidget* dialog, OtherCatsMode)>;
 
+    // Prints the listing; none leaves Print greyed.
+    using PrintListing = std::function<void()>;
+
     TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
-           QWidget* parent = nullptr);
+           PrintListing printListing, QWidget* parent = nullptr);
 
 private:
     TabbedListBox* list_;             // 944
@@ -33,6 +36,7 @@ private:
     QPushButton* otherCatsButton_;    // 102
     QPushButton* specialNotesButton_; // 103
     OpenOtherCats openOtherCats_;
+    PrintListing printListing_;
 };
 
 } // namespace purrlodge

@@ -1,0 +1,83 @@
+#include "app/commands/Printing.h"
+
+#include "accounts/FeeCalculation.h"
+#include "app/Session.h"
+#include "print/AccountPages.h"
+#include "print/ClientDetailsPage.h"
+#include "print/PrinterJobs.h"
+
+namespace purrlodge {
+
+void setPrintDialogOption(Session& session, PrintingQuestions& questions)
+{
+    questions.fillPrintDialogOption(
+        storedPrintDialogMode(session.ports.profile), [&session](int mode) {
+            if (mode < printDialogNever || mode > printDialogFirstPrintOnly)
+                return FormVerdict::StayOpen;
+            if (!session.ports.profile.write(printDialogKey, std::to_string(mode)))
+                return FormVerdict::StayOpen;
+            session.printDialog.modeInForce = mode;
+            return FormVerdict::Accept;
+        });
+}
+
+void setPrintingOptions(Session& session, PrintingQuestions& questions)
+{
+    questions.fillColourPrintingOptions(
+        colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile),
+        [&session](const ColourPrintingForm& form) {
+            return acceptColourPrintingForm(form, session.folder, session.ports.profile,
+                                            session.establishment, session.colourBlock);
+        });
+}
+
+void setupPrinter(Session& session)
+{
+    session.ports.printer.setUp();
+}
+
+void runPendingPrintout(Session& session)
+{
+    session.printBuffer.count = -1;
+    if (!session.printDialog.printedWithDialog)
+        return;
+    session.printBuffer.clear();
+    PrinterJobs jobs(session.ports.printer);
+    jobs.run("empty", true, session.printBuffer);
+    afterPrint(session.printDialog);
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+}
+
+void printClientDetails(Session& session, const ClientDetailsListing& listing)
+{
+    fillClientDetailsPage(session.printBuffer, listing);
+    PrinterJobs jobs(session.ports.printer);
+    runPrintJob(jobs, "Cat Details", session.printBuffer, session.printDialog);
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+}
+
+bool printAccountAndCopy(Session& session, const AccountPrintout& printout)
+{
+    const ColourPrintingForm colours =
+        colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile);
+    AccountPageValues values{session.establishment, session.client, session.account,
+                             session.exchangeRate, session.ports.clock};
+    values.perDay = chargesPerDay(session.rates);
+    values.currencySign = session.account.currencySign;
+    values.inSterling = session.rates.inSterling();
+    values.standardExtraName = printout.standardExtraName;
+    values.standardExtraAmount = printout.standardExtraAmount;
+    values.accountNote = printout.accountNote;
+    values.accountInColour = colours.inColour[static_cast<std::size_t>(ColourItem::ClientsAccount)];
+    values.copyInColour = colours.inColour[static_cast<std::size_t>(ColourItem::AccountCopy)];
+    values.nameColourIndex = colours.nameColour;
+    values.namesLineOn = colours.namesOnAccount;
+
+    PrinterJobs jobs(session.ports.printer);
+    const AccountPairOutcome outcome =
+        printAccountPair(values, session.printBuffer, session.draw, session.printDialog, jobs);
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+    return outcome == AccountPairOutcome::Printed;
+}
+
+} // namespace purrlodge
