@@ -1,0 +1,52 @@
+// A printout without a printer is a page drawn into a PDF file: the client's
+// account, filled and drawn, from the start of the job to the file closed.
+#include <benchmark/benchmark.h>
+
+#include <QTemporaryDir>
+
+#include "accounts/ExchangeRateRecord.h"
+#include "gui/app/FontSubstitutions.h"
+#include "gui/ports/QtPrinter.h"
+#include "print/AccountPages.h"
+#include "print/PageLayout.h"
+#include "print/PrintBuffer.h"
+#include "store/RandomDraw.h"
+#include "support/FakePorts.h"
+
+namespace purrlodge {
+namespace {
+
+void BM_ClientsAccountToPdf(benchmark::State& state)
+{
+    installFontSubstitutions();
+    QTemporaryDir folder;
+    QtPrinter printer(folder.path());
+    testing::FakePorts fakes;
+    RandomDraw draw(fakes.random, fakes.clock);
+    EstablishmentRecord establishment{};
+    establishment.name.set("Whiskers Lodge");
+    establishment.manager.set("Jo Bloggs");
+    establishment.address[0].set("1 Mill Lane");
+    establishment.displayFlags.set("CA");
+    ClientRecord client{};
+    client.surname.set("Smith");
+    client.catName[0].set("Tibbles");
+    AccountRecord account{};
+    account.receiptNumber.set(1042);
+    account.arrivalDate.set("01/03/24");
+    account.departureDate.set("04/03/24");
+    ExchangeRateRecord exchange{};
+    const AccountPageValues values{establishment, client, account, exchange, fakes.clock};
+    PrintBuffer buffer;
+    for (auto _ : state) {
+        fillClientAccount(buffer, values, draw);
+        printer.printPage("Client's Account", false,
+                          [&buffer](Canvas& canvas) { renderPage(buffer, canvas); });
+    }
+    static_cast<void>(printer.takeSavedFiles());
+}
+
+BENCHMARK(BM_ClientsAccountToPdf)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
+} // namespace purrlodge
