@@ -28,3 +28,18 @@ if(PURRLODGE_SANITIZE)
     -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(purrlodge_settings INTERFACE -fsanitize=address,undefined)
 endif()
+
+# The fuzz build instruments the core for libFuzzer, AddressSanitizer and UBSan;
+# any UBSan finding aborts, so the fuzzer reports it. The targets link the
+# fuzzer's own main (tests/fuzz).
+if(PURRLODGE_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "PURRLODGE_FUZZ needs clang (CC=clang CXX=clang++)")
+  endif()
+  if(PURRLODGE_SANITIZE)
+    message(FATAL_ERROR "PURRLODGE_FUZZ brings its own sanitizers; leave PURRLODGE_SANITIZE off")
+  endif()
+  target_compile_options(purrlodge_settings INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(purrlodge_settings INTERFACE -fsanitize=address,undefined)
+endif()
