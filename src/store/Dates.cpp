@@ -103,9 +103,9 @@ int dayCount(std::string_view first, std::string_view second)
     return static_cast<int>((to - from) / secondsPerDay + 1);
 }
 
-int yearsSince(int year, int currentYear)
+std::int64_t yearsSince(int year, int currentYear)
 {
-    return currentYear - year;
+    return std::int64_t{currentYear} - year;
 }
 
 int ageFromNumber(std::int64_t t, std::int64_t now)

@@ -49,7 +49,9 @@ struct DateParts {
 // consecutive days are 2.
 [[nodiscard]] int dayCount(std::string_view first, std::string_view second);
 
-[[nodiscard]] int yearsSince(int year, int currentYear);
+// Years from `year` to `currentYear`, in 64 bits so that any stored year of
+// birth gives its number.
+[[nodiscard]] std::int64_t yearsSince(int year, int currentYear);
 
 // Whole 365-day years from t to now; -1 when t < 1 (no date recorded).
 [[nodiscard]] int ageFromNumber(std::int64_t t, std::int64_t now);

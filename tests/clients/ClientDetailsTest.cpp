@@ -1,5 +1,6 @@
 #include "clients/ClientDetails.h"
 
+#include <climits>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -148,6 +149,16 @@ TEST_F(ClientDetailsTest, ACurrentClientIsListedInFullAndAPastOneShortened)
     EXPECT_EQ(shortened.lines, shorter);
     past.firstRegistered.set(0);
     EXPECT_EQ(listing(past).lines[17], "First Registered:  Not Recorded  (Known rating - 3)");
+}
+
+TEST_F(ClientDetailsTest, AnyStoredYearOfBirthGivesAnAge)
+{
+    ClientRecord client{};
+    putCat(client, 0, "Tigger", 1, INT_MIN);
+    putCat(client, 1, "Pig", 1, INT_MAX);
+    const Lines lines = listing(client).lines;
+    EXPECT_EQ(lines[9].substr(0, 26), "Tigger\t[M]\tAge=2147485672\t");
+    EXPECT_EQ(lines[10].substr(0, 24), "Pig\t[M]\tAge=-2147481623\t");
 }
 
 TEST_F(ClientDetailsTest, VaccinationCertificatesLastTheYearsSetIn365DayYears)

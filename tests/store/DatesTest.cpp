@@ -1,5 +1,6 @@
 #include "store/Dates.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -78,6 +79,8 @@ TEST(DateNumbers, AreNoonUtcWithAFiftyYearWindowAndCountDaysAndYears)
     EXPECT_TRUE(isLeapYear(2000) && isLeapYear(2024) && !isLeapYear(1900) && !isLeapYear(2023));
     EXPECT_EQ(dayCount("1/3/09", "1/3/09"), 1);
     EXPECT_EQ(dayCount("30/12/99", "2/1/00"), 4);
+    EXPECT_EQ(yearsSince(2010, 2024), 14);
+    EXPECT_EQ(yearsSince(INT_MIN, 2024), 2024 + 2147483648LL) << "any stored year";
     EXPECT_EQ(ageFromNumber(0, 1'000'000'000), -1);
     EXPECT_EQ(ageFromNumber(1, 31536000), 0);
     EXPECT_EQ(ageFromNumber(1, 31536001), 1) << "a year is 365 days";
