@@ -1,5 +1,6 @@
 #include "accounts/FeeCalculation.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <climits>
 #include <cmath>
@@ -37,6 +38,12 @@ std::string rateChangeDateText(std::int64_t changeTime, const Clock& clock)
 {
     const CivilTime local = clock.toLocal(changeTime);
     return formatted("%02d/%02d/%02d", local.day, local.month, local.year - 1900 - 100);
+}
+
+// A day count as the account's 32-bit field holds it: the nearest value it can.
+std::int32_t storedDays(std::int64_t days)
+{
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(days, INT32_MIN, INT32_MAX));
 }
 
 int countCats(const FeeEntries& entries)
@@ -79,25 +86,25 @@ void fillBoard(const FeeEntries& entries, const RatesRecord& rates, int cats,
     if (split) {
         // The change day itself is charged at the new rate, and the per-night
         // deduction falls on the new-rate part.
-        const int oldDays = dayCount(entries.arrival, changeDate) - 1;
-        const int newDays = dayCount(changeDate, entries.departure) - (perDay ? 0 : 1);
+        const std::int64_t oldDays = dayCount(entries.arrival, changeDate) - 1;
+        const std::int64_t newDays = dayCount(changeDate, entries.departure) - (perDay ? 0 : 1);
         account.oldRateEndDate.set(changeDate);
         account.newRateStartDate.set(changeDate);
-        account.daysAtOldRate.set(oldDays);
-        account.daysAtNewRate.set(newDays);
+        account.daysAtOldRate.set(storedDays(oldDays));
+        account.daysAtNewRate.set(storedDays(newDays));
         account.boardAtOldRate.set(toStoredFloat(static_cast<long double>(oldDays) * previousRate));
         account.boardAtNewRate.set(toStoredFloat(static_cast<long double>(newDays) * presentRate));
         account.grossBoard.set(toStoredFloat(
             static_cast<long double>(account.boardAtOldRate.get()) + account.boardAtNewRate.get()));
         account.oldRate.set(previousRate);
         account.rateUsed.set(presentRate);
-        account.daysCharged.set(oldDays + newDays);
+        account.daysCharged.set(storedDays(oldDays + newDays));
         return;
     }
 
     // One rate: the split fields are cleared so that a stay whose dates were
     // altered after a split computes exactly as a fresh account would.
-    const int days = chargedDays(entries.arrival, entries.departure, perDay);
+    const std::int64_t days = chargedDays(entries.arrival, entries.departure, perDay);
     account.oldRateEndDate.clear();
     account.newRateStartDate.clear();
     account.daysAtOldRate.set(0);
@@ -105,7 +112,7 @@ void fillBoard(const FeeEntries& entries, const RatesRecord& rates, int cats,
     account.boardAtOldRate.set(0.0f);
     account.boardAtNewRate.set(0.0f);
     account.oldRate.set(0.0f);
-    account.daysCharged.set(days);
+    account.daysCharged.set(storedDays(days));
     account.rateUsed.set(presentRate);
     account.grossBoard.set(toStoredFloat(static_cast<long double>(days) * presentRate));
 }
@@ -178,7 +185,7 @@ bool chargesPerDay(const RatesRecord& rates)
     return rates.perDay.get() == 1;
 }
 
-int chargedDays(std::string_view arrival, std::string_view departure, bool perDay)
+std::int64_t chargedDays(std::string_view arrival, std::string_view departure, bool perDay)
 {
     return dayCount(arrival, departure) - (perDay ? 0 : 1);
 }

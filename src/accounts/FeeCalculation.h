@@ -70,8 +70,10 @@ struct FeeResult {
 [[nodiscard]] bool chargesPerDay(const RatesRecord& rates);
 
 // The days (or nights) charged for a stay: arrival and departure day both
-// count, and per night one less.
-[[nodiscard]] int chargedDays(std::string_view arrival, std::string_view departure, bool perDay);
+// count, and per night one less. The account's day fields hold the count
+// clamped to 32 bits; the board is charged for the whole count.
+[[nodiscard]] std::int64_t chargedDays(std::string_view arrival, std::string_view departure,
+                                       bool perDay);
 
 // The amount of an entry that may carry a pound sign: the text after the first
 // 0xA3 byte when there is one, else the whole text, read atof-style.

@@ -96,11 +96,11 @@ std::int64_t dateToNumber(std::string_view ddmmyy)
            secondsPerDay / 2;
 }
 
-int dayCount(std::string_view first, std::string_view second)
+std::int64_t dayCount(std::string_view first, std::string_view second)
 {
     const std::int64_t from = dateToNumber(normaliseDate(3, first));
     const std::int64_t to = dateToNumber(normaliseDate(3, second));
-    return static_cast<int>((to - from) / secondsPerDay + 1);
+    return (to - from) / secondsPerDay + 1;
 }
 
 std::int64_t yearsSince(int year, int currentYear)

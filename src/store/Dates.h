@@ -46,8 +46,9 @@ struct DateParts {
 [[nodiscard]] std::int64_t dateToNumber(std::string_view ddmmyy);
 
 // Days from the first date to the second counting both ends: the same day is 1,
-// consecutive days are 2.
-[[nodiscard]] int dayCount(std::string_view first, std::string_view second);
+// consecutive days are 2. In 64 bits: a damaged date's year takes the count
+// far past what an int holds.
+[[nodiscard]] std::int64_t dayCount(std::string_view first, std::string_view second);
 
 // Years from `year` to `currentYear`, in 64 bits so that any stored year of
 // birth gives its number.

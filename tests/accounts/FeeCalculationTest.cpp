@@ -1,5 +1,6 @@
 #include "accounts/FeeCalculation.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -148,6 +149,30 @@ TEST_F(FeeCalculationTest, SplitStayIsStoredExactlyRecomputedAfreshAndSplitOnlyW
     EXPECT_EQ(split(10, 23), std::pair(2, 2));
     setRate(1, 12.35f, 12.35f);
     EXPECT_EQ(split(10, 10), std::pair(0, 0));
+}
+
+// A year of 2147483647 (19yy rules: 2147485547) is hundreds of billions of days
+// away: the board charges them all, the 32-bit day fields hold the nearest count.
+TEST_F(FeeCalculationTest, DamagedDatesChargeEveryDayAndStoreTheNearestCount)
+{
+    const std::int64_t farAhead = daysFromCivil(2147485547, 1, 1) - daysFromCivil(2005, 3, 1);
+    setRate(1, 2.0f, 2.0f);
+    entries.departure = "01/01/2147483647";
+    EXPECT_EQ(chargedDays(entries.arrival, entries.departure, true), farAhead + 1);
+    const AccountRecord oneRate = compute();
+    EXPECT_EQ(oneRate.daysCharged.get(), INT32_MAX);
+    EXPECT_EQ(oneRate.grossBoard.get(),
+              toStoredFloat(2.0L * static_cast<long double>(farAhead + 1)));
+
+    // Split at a change on 5 March, the departure as far back.
+    setRate(1, 2.0f, 1.0f);
+    rates.rateChangeTime.set(utc(5, 3, 10));
+    entries.departure = "01/01/-2147483648";
+    const AccountRecord split = compute();
+    EXPECT_EQ(split.daysAtOldRate.get(), 4);
+    EXPECT_EQ(split.daysAtNewRate.get(), INT32_MIN);
+    EXPECT_EQ(split.daysCharged.get(), INT32_MIN);
+    EXPECT_LT(split.grossBoard.get(), -1e12f);
 }
 
 TEST_F(FeeCalculationTest, DiscountsPoundSignsCurrenciesAndRefusal)
