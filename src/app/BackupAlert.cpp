@@ -17,7 +17,8 @@ bool backupReminderFrom(std::string_view remStatus)
 std::optional<Message> backupAlertFor(std::int64_t lastBackup, bool reminderOn, std::int64_t now,
                                       const Clock& clock)
 {
-    if (!reminderOn || now - lastBackup < backupAlertAfterSeconds)
+    // Compared without subtracting the stored date, which may be any 64-bit number.
+    if (!reminderOn || lastBackup > now - backupAlertAfterSeconds)
         return std::nullopt;
     if (lastBackup == 0)
         return Message{"You have never backedup your precious Purrlodge Data", "Backup Alert",

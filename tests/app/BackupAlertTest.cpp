@@ -1,0 +1,24 @@
+#include "app/BackupAlert.h"
+
+#include <climits>
+#include <gtest/gtest.h>
+
+#include "support/FakePorts.h"
+
+namespace purrlodge {
+namespace {
+
+// LastBkDate is read with strtoll, so a damaged setting holds any 64-bit number.
+TEST(BackupAlertTest, AnyStoredBackupDateIsComparedWithNow)
+{
+    testing::FakeClock clock;
+    clock.setUtc(2024, 6, 15);
+    const std::int64_t now = clock.now();
+    EXPECT_FALSE(backupAlertFor(now - backupAlertAfterSeconds + 1, true, now, clock));
+    EXPECT_TRUE(backupAlertFor(now - backupAlertAfterSeconds, true, now, clock));
+    EXPECT_TRUE(backupAlertFor(LLONG_MIN, true, now, clock)) << "long ago";
+    EXPECT_FALSE(backupAlertFor(LLONG_MAX, true, now, clock)) << "in the future";
+}
+
+} // namespace
+} // namespace purrlodge
