@@ -1,5 +1,6 @@
 #include "app/PictureRotation.h"
 
+#include <cstdint>
 #include <string>
 
 #include "app/ShellState.h"
@@ -10,7 +11,8 @@ namespace purrlodge {
 
 std::optional<int> advancedPictureIndex(int index, int storedDay, int today)
 {
-    if (storedDay == today || !(today % 3 == 0 || today > storedDay + 12))
+    // The stored day comes from the settings file and may be any int.
+    if (storedDay == today || !(today % 3 == 0 || today > std::int64_t{storedDay} + 12))
         return std::nullopt;
     return index >= pictureCount - 1 ? 0 : index + 1;
 }

@@ -1,5 +1,6 @@
 #include "app/PictureRotation.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 
 #include "support/FakePorts.h"
@@ -16,6 +17,8 @@ TEST(PictureRotationTest, ChangesOnEveryThirdDayOrAfterMoreThanTwelveDaysAndWrap
     EXPECT_EQ(advancedPictureIndex(4, 4, 16), std::nullopt);
     EXPECT_EQ(advancedPictureIndex(4, 9, 9), std::nullopt) << "at most once a day";
     EXPECT_EQ(advancedPictureIndex(20, 5, 9), 0);
+    EXPECT_EQ(advancedPictureIndex(4, INT_MAX, 10), std::nullopt) << "any stored day";
+    EXPECT_EQ(advancedPictureIndex(4, INT_MIN, 10), 5);
 
     testing::FakeProfile profile;
     profile.values["picdets"] = "20 $ 5";
