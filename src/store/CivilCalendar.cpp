@@ -5,10 +5,12 @@ namespace purrlodge {
 // The well-known era-based conversion: exact for every proleptic Gregorian date.
 std::int64_t daysFromCivil(std::int64_t year, int month, int day)
 {
-    year -= month <= 2 ? 1 : 0;
+    // In 64 bits, so that a month or day read from a damaged date still gives a number.
+    const std::int64_t m = month;
+    year -= m <= 2 ? 1 : 0;
     const std::int64_t era = (year >= 0 ? year : year - 399) / 400;
     const std::int64_t yearOfEra = year - era * 400;
-    const std::int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
+    const std::int64_t dayOfYear = (153 * (m + (m > 2 ? -3 : 9)) + 2) / 5 + day - 1;
     const std::int64_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
     return era * 146097 + dayOfEra - 719468;
 }

@@ -71,6 +71,9 @@ TEST(DateNumbers, AreNoonUtcWithAFiftyYearWindowAndCountDaysAndYears)
         const std::string text = formatDateText(civil.day, civil.month, civil.year % 100);
         ASSERT_EQ(dateToNumber(text), day * 86400 + 43200) << text;
     }
+    EXPECT_EQ(daysFromCivil(2000, 1, INT_MAX) - daysFromCivil(2000, 1, 1), INT_MAX - 1);
+    EXPECT_GT(daysFromCivil(2000, INT_MAX, 1), daysFromCivil(2000, 12, 1)) << "any month";
+    EXPECT_LT(daysFromCivil(2000, INT_MIN, INT_MIN), daysFromCivil(1900, 1, 1));
     EXPECT_EQ(dateToNumber("00/03/24"), noonUtc(2024, 2, 29));
     EXPECT_EQ(dateToNumber("05/00/09"), noonUtc(2009, 1, 5));
     EXPECT_EQ(dateToNumber("01/99/09"), noonUtc(2010, 1, 1));
