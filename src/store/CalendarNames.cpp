@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 12> monthNames = {
     "July",    "August",   "September", "October", "November", "December"};
 
 template <std::size_t Size>
-std::string_view pick(const std::array<std::string_view, Size>& names, int index)
+std::string_view pick(const std::array<std::string_view, Size>& names, std::int64_t index)
 {
     if (index < 0 || static_cast<std::size_t>(index) >= Size)
         return {};
@@ -39,7 +39,7 @@ std::string_view weekdayShortName(int weekday)
 
 std::string_view monthName(int month1to12)
 {
-    return pick(monthNames, month1to12 - 1);
+    return pick(monthNames, std::int64_t{month1to12} - 1); // any int, INT_MIN too
 }
 
 std::string daySuffix(int day)

@@ -110,6 +110,10 @@ TEST(DateText, NormalisedLongAndLocal)
     for (int day : {1, 2, 3, 4, 11, 12, 13, 22, 31})
         suffixes += daySuffix(day) + " ";
     EXPECT_EQ(suffixes, "st nd th th st nd th nd st ");
+    std::string months; // out-of-range months, INT_MIN too, have no name
+    for (int month : {1, 12, 0, 13, INT_MIN, INT_MAX})
+        months += std::string(monthName(month)) + " ";
+    EXPECT_EQ(months, "January December     ");
     clock.setUtc(2009, 4, 23, 9, 5);
     EXPECT_EQ(timeOfDayText(clock.now(), clock), "09:05 hrs");
     EXPECT_EQ(monthAndYearText(clock.now(), clock), "04/09");
