@@ -4,7 +4,8 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ libgtest-dev qt6-base-dev xvfb xauth xdotool imagemagick
-          poppler-utils fonts-liberation fonts-liberation2 fonts-dseg fonts-blankenburg libbenchmark-dev)
+          poppler-utils fonts-liberation fonts-liberation2 fonts-dseg fonts-blankenburg libbenchmark-dev
+          clang libclang-rt-dev)
 
 missing=()
 for package in "${packages[@]}"; do
