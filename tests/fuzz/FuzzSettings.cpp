@@ -1,8 +1,9 @@
 // Bytes as the settings file (HEARTH.INI). In memory: the file's text is its
-// bytes, values read the same from the file and from its text parsed again,
-// before and after values are set, and a value set reads back as set. On disc:
-// the program's own settings readers (picture rotation, backup alert, drive
-// letters, the window caption) over the file through the profile.
+// bytes (unless it has a byte-order mark), values read the same from the file
+// and from its text parsed again, before and after values are set, and a value
+// set reads back as set. On disc: the program's own settings readers (picture
+// rotation, backup alert, drive letters, the window caption) over the file
+// through the profile.
 
 #include <algorithm>
 #include <cstddef>
@@ -20,12 +21,15 @@
 #include "app/PictureRotation.h"
 #include "app/ProfileDrives.h"
 #include "fuzz/FuzzSupport.h"
+#include "store/Windows1252.h"
 #include "support/FakePorts.h"
 
 namespace {
 
 using namespace purrlodge;
 using Name = std::pair<std::string, std::string>; // section, key
+
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 void require(bool holds, const char* what)
 {
@@ -107,9 +111,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     temp.reset();
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
 
+    // A file without a byte-order mark is kept byte for byte; a marked one is
+    // decoded, and what it cannot decode comes back as '?'.
     IniFile file = IniFile::parse(bytes);
-    require(file.text() == bytes, "the text is not the bytes parsed");
-    const std::vector<Name> names = namesToRead(bytes);
+    const bool utf8 = bytes.starts_with(utf8Mark);
+    const bool marked = utf8 || bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    require(marked || file.text() == bytes, "the text is not the bytes parsed");
+    const std::vector<Name> names =
+        namesToRead(utf8 ? windows1252FromUtf8(bytes.substr(utf8Mark.size())) : std::string(bytes));
     requireSameOnReading(file, names);
 
     // Values the program writes, one taken from the file itself, then a value

@@ -370,6 +370,13 @@ void textSeeds()
          "[Purrlodge]\nPicdets=-2147483648 $ -2147483648\nLastBkDate=9223372036854775807\n");
     seed("settings", "unfinished.ini", "[Purrlodge\nCurrentDir=/data\r");
     seed("settings", "no-sections.ini", "=\n==\nkey\n[]\n[\n]\n");
+    seed("settings", "utf8-mark.ini",
+         "\xEF\xBB\xBF[Purrlodge]\r\nCurrentDir=/Katzen/M\xC3\xBCller\r");
+    const std::string utf16 = "[Purrlodge]\r\nPicdets=3 $ 9\r\n";
+    std::string utf16Bytes = "\xFF\xFE";
+    for (const char c : utf16)
+        utf16Bytes += std::string{c, '\0'};
+    seed("settings", "utf16-mark.ini", utf16Bytes);
 
     seed("dates", "good.txt", "01/03/09\n22/03/09\n29/02/24\n5/6/10\n31/12/99\n1/1/00\n");
     seed("dates", "no-such-day.txt", "99/99/99\n31/02/24\n0/0/0\n//\n/\n\n");
