@@ -2,13 +2,17 @@
 # Builds the fuzz targets with clang in build-fuzz and runs each for a bounded
 # time from a copy of its seeds (tests/data/corpus/<target>; the seeds are never
 # written to). Seconds per target: the first argument, else
-# $PURRLODGE_FUZZ_SECONDS, else 15. Prints how many inputs each target ran and
+# $PURRLODGE_FUZZ_SECONDS, else 15; the seed is fixed (see below). Prints how many inputs each target ran and
 # exits non-zero when any target found a fault; the input that found it is kept
 # in build-fuzz/findings.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 seconds=${1:-${PURRLODGE_FUZZ_SECONDS:-15}}
+# A fixed seed makes a run repeat the inputs of the last: the tests stay
+# repeatable, and a longer local run covers what a shorter one tries.
+# PURRLODGE_FUZZ_SEED=0 lets libFuzzer choose a seed of its own.
+seed=${PURRLODGE_FUZZ_SEED:-1}
 targets=(index client_record stay_and_rates cattery_files other_cats settings dates client_form)
 
 scripts/setup.sh
@@ -29,7 +33,7 @@ for target in "${targets[@]}"; do
   mkdir -p "$corpus"
   cp tests/data/corpus/"$target"/* "$corpus"/
   log="$scratch/$target.log"
-  if TMPDIR="$scratch" build-fuzz/tests/fuzz/fuzz_"$target" -max_total_time="$seconds" \
+  if TMPDIR="$scratch" build-fuzz/tests/fuzz/fuzz_"$target" -max_total_time="$seconds" -seed="$seed" \
       -timeout=20 -artifact_prefix="$findings/$target-" "$corpus" >"$log" 2>&1; then
     echo "$target: $(grep -E '^Done [0-9]+ runs' "$log" || echo 'no final count')"
   else
