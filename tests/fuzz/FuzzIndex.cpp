@@ -1,5 +1,5 @@
 // Bytes as the client index (FIDEX.CTL) and as the past-client index
-// (OFIDEX.CTL): the readers, the index operations, list-line look-ups, the
+// (OFIDEX.CTL): the readers, start-up's repair, the index operations, list-line look-ups, the
 // receipt-number offer, a new client's registration and the finder over what
 // was read (people by the first entry's surname, cats by a name that one
 // record written under the first entry's code holds).
@@ -17,6 +17,7 @@
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
 #include "store/IndexOperations.h"
+#include "store/IndexRepair.h"
 #include "store/RandomDraw.h"
 #include "store/TextHelpers.h"
 #include "support/FakePorts.h"
@@ -81,6 +82,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ClientIndex past;
     readIndex(folder, index);
     readPastIndex(folder, past);
+
+    // Start-up's repair: afterwards the count and the entries agree, and a
+    // second check finds nothing more.
+    const IndexRepair repair = repairIndex(index, size);
+    static_cast<void>(unsafeCodeEntries(index));
+    if (repair.repaired()) {
+        if (index.count.get() != repair.kept || index.count.get() < 0 ||
+            index.count.get() > maxClients)
+            __builtin_trap();
+        for (int entry = 1; entry <= index.usedCount(); ++entry) {
+            if (index.entries[entry].code.str().empty())
+                __builtin_trap();
+        }
+    }
+    if (repairIndex(index, sizeof(ClientIndex)).repaired())
+        __builtin_trap();
 
     // One client record under the first entry's code, with cats to find.
     ClientRecord client{};
