@@ -38,7 +38,7 @@ protected:
     ScriptedPrintingQuestions questions;
 };
 
-TEST_F(PrintingCommandsTest, ThePairShowsTheDialogOnceAndACancelledAccountPrintsNoCopy)
+TEST_F(PrintingCommandsTest, ThePairIsToldInOneMessageAndACancelledAccountInNone)
 {
     session.printDialog.modeInForce = printDialogEveryTime;
     fakes.printer.savedFiles = {"/docs/Client's Account.pdf", "/docs/Account Copy.pdf"};
@@ -53,12 +53,6 @@ TEST_F(PrintingCommandsTest, ThePairShowsTheDialogOnceAndACancelledAccountPrints
     EXPECT_FALSE(printAccountAndCopy(session, {}));
     EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Client's Account", true}}));
     EXPECT_TRUE(fakes.ui.messages.empty()) << "nothing was saved";
-
-    // With the account omitted, the copy is the command's first job.
-    fakes.printer.jobs.clear();
-    session.account.omitTopSheet.set(1);
-    EXPECT_TRUE(printAccountAndCopy(session, {}));
-    EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Account Copy", true}}));
 }
 
 TEST_F(PrintingCommandsTest, TheToolBarJobRunsWithTheDialogOnlyOnceAJobHasShownIt)
