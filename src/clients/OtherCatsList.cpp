@@ -8,7 +8,6 @@
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
 #include "store/TextHelpers.h"
-#include "store/Windows1252.h"
 
 namespace purrlodge {
 
@@ -17,10 +16,7 @@ namespace {
 std::ifstream openClientFile(const DataFolder& folder, std::string_view code,
                              std::string_view fileExtension)
 {
-    const std::string name = clientFileName(code, fileExtension);
-    if (!isPlainFileName(name))
-        return {}; // never opened: the name would reach outside the data folder
-    return std::ifstream(nativePath(folder.fileName(name)), std::ios::binary);
+    return folder.openForReading(clientFileName(code, fileExtension));
 }
 
 // "%s, %s, %s, %c, DOB = %s, Notified (%s) = %s", then the note, then a blank line.

@@ -56,10 +56,7 @@ std::string DataFolder::fileName(std::string_view name) const
 bool DataFolder::readBytes(std::string_view name, void* block, std::size_t size) const
 {
     std::memset(block, 0, size);
-    if (!isPlainFileName(name))
-        return false;
-    const std::filesystem::path file = toPath(fileName(name));
-    std::ifstream stream(file, std::ios::binary);
+    std::ifstream stream = openForReading(name);
     if (!stream)
         return false;
     stream.read(static_cast<char*>(block), static_cast<std::streamsize>(size));
@@ -68,11 +65,19 @@ bool DataFolder::readBytes(std::string_view name, void* block, std::size_t size)
         std::memset(block, 0, size);
         return false;
     }
-    std::error_code sizeError;
-    const std::uintmax_t fileSize = std::filesystem::file_size(file, sizeError);
-    if (!sizeError && fileSize / 2 > size)
-        reportOversized(name, fileSize, size);
+    if (const std::optional<std::uintmax_t> length = fileSize(name); length && *length / 2 > size)
+        reportOversized(name, *length, size);
     return true;
+}
+
+std::ifstream DataFolder::openForReading(std::string_view name) const
+{
+    if (!isPlainFileName(name)) {
+        std::ifstream refused; // fails as a missing file does
+        refused.setstate(std::ios::failbit);
+        return refused;
+    }
+    return std::ifstream(toPath(fileName(name)), std::ios::binary);
 }
 
 void DataFolder::reportOversized(std::string_view name, std::uintmax_t fileSize,

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <set>
 #include <string>
@@ -43,6 +44,10 @@ public:
     // twice as long as its block is damaged: the person is told so once per
     // file and run. Returns whether the file could be opened and read.
     bool readBytes(std::string_view name, void* block, std::size_t size) const;
+
+    // The file opened for reading in binary; not open when it cannot be, or
+    // when the name is not a plain file name.
+    [[nodiscard]] std::ifstream openForReading(std::string_view name) const;
 
     // Writes the block crash-safely: a temporary file beside the target, flushed
     // and renamed over it. A longer existing file keeps its tail, as writing
