@@ -55,6 +55,13 @@ Rgb colourFrom(std::string_view field)
 
 } // namespace
 
+Rgb schemeColour(int colourIndex)
+{
+    return colourIndex >= 0 && colourIndex < randomScheme
+               ? colourFrom(colourSchemes[static_cast<std::size_t>(colourIndex)])
+               : Rgb{};
+}
+
 std::string withoutLastField(std::string_view format)
 {
     const std::size_t lastComma = format.rfind(',');

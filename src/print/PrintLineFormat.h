@@ -43,6 +43,9 @@ struct ParsedPrintLine {
 // dpi / divisor).
 [[nodiscard]] int printCellHeight(int verticalDpi, int sizeIndex);
 
+// The colour a scheme index 0..9 prints in; black for any other index.
+[[nodiscard]] Rgb schemeColour(int colourIndex);
+
 // The line with its colour field (the sixth) replaced by the colour scheme of
 // the index 0..10, where 10 draws a random scheme 0..9. The fields are joined
 // again with ", " and keep their own blanks, so "0b, 8, 50, 2, u, 000, C"

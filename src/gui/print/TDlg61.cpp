@@ -13,38 +13,37 @@
 #include "gui/DialogButtons.h"
 #include "gui/HelpPage.h"
 #include "gui/RadioButtons.h"
+#include "print/PrintLineFormat.h"
 
 namespace purrlodge {
 
 namespace {
 
-struct NameColour {
-    const char* label;
-    QColor colour; // as printed: each digit d of the scheme is d × 28.3
-};
-
-// The colour schemes in their order; the last is drawn in several colours.
-const NameColour nameColours[] = {
-    {"Blue", QColor(0, 0, 254)},
-    {"Maroon", QColor(141, 0, 0)},
-    {"Green", QColor(0, 254, 0)},
-    {"Dark Green", QColor(0, 141, 0)},
-    {"Red", QColor(254, 0, 0)},
-    {"Magenta", QColor(254, 0, 254)},
-    {"Teal", QColor(0, 141, 141)},
-    {"Olive", QColor(141, 141, 0)},
-    {"Yellow", QColor(254, 254, 0)},
-    {"Black", QColor(0, 0, 0)},
-    {"A different colour each time", QColor()},
-};
+// The colour schemes' names in their order; the last is a different
+// colour each time, drawn in several.
+const char* const nameColourLabels[] = {"Blue",
+                                        "Maroon",
+                                        "Green",
+                                        "Dark Green",
+                                        "Red",
+                                        "Magenta",
+                                        "Teal",
+                                        "Olive",
+                                        "Yellow",
+                                        "Black",
+                                        "A different colour each time"};
+constexpr int randomNameColour = 10;
 
 const char* const itemLabels[colourItemCount] = {
     "Arrival Sheet-&1",    "Arrival Sheet-&2",  "&Return Sheet",
     "A&dmission Register", "Client's &Account", "Account &Copy",
 };
 
-QIcon swatch(const QColor& colour)
+QIcon swatch(int scheme)
 {
+    const Rgb printed = schemeColour(scheme);
+    const QColor colour =
+        scheme == randomNameColour ? QColor() : QColor(printed.red, printed.green, printed.blue);
     QPixmap picture(28, 16);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -93,14 +92,14 @@ TDlg61::TDlg61(const ColourPrintingForm& initial, const OkRule<ColourPrintingFor
     auto* coloursBox = new QGroupBox(QStringLiteral("Colour of the cattery's name"), this);
     auto* coloursLayout = new QGridLayout(coloursBox);
     int index = 0;
-    for (const NameColour& colour : nameColours) {
-        QRadioButton* button = newRadioButton(QString::fromUtf8(colour.label),
+    for (const char* label : nameColourLabels) {
+        QRadioButton* button = newRadioButton(QString::fromUtf8(label),
                                               QStringLiteral("nameColour%1Radio").arg(index),
                                               nameColours_, coloursBox, index);
-        button->setIcon(swatch(colour.colour));
+        button->setIcon(swatch(index));
         button->setIconSize(QSize(28, 16));
         // Two columns; the many-coloured choice takes a row of its own.
-        if (index < 10)
+        if (index < randomNameColour)
             coloursLayout->addWidget(button, index / 2, index % 2);
         else
             coloursLayout->addWidget(button, 5, 0, 1, 2);
