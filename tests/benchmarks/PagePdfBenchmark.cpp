@@ -4,7 +4,6 @@
 
 #include <QTemporaryDir>
 
-#include "accounts/ExchangeRateRecord.h"
 #include "gui/app/FontSubstitutions.h"
 #include "gui/ports/QtPrinter.h"
 #include "print/AccountPages.h"
@@ -12,6 +11,7 @@
 #include "print/PrintBuffer.h"
 #include "store/RandomDraw.h"
 #include "support/FakePorts.h"
+#include "support/SampleAccount.h"
 
 namespace purrlodge {
 namespace {
@@ -23,20 +23,9 @@ void BM_ClientsAccountToPdf(benchmark::State& state)
     QtPrinter printer(folder.path());
     testing::FakePorts fakes;
     RandomDraw draw(fakes.random, fakes.clock);
-    EstablishmentRecord establishment{};
-    establishment.name.set("Whiskers Lodge");
-    establishment.manager.set("Jo Bloggs");
-    establishment.address[0].set("1 Mill Lane");
-    establishment.displayFlags.set("CA");
-    ClientRecord client{};
-    client.surname.set("Smith");
-    client.catName[0].set("Tibbles");
-    AccountRecord account{};
-    account.receiptNumber.set(1042);
-    account.arrivalDate.set("01/03/24");
-    account.departureDate.set("04/03/24");
-    ExchangeRateRecord exchange{};
-    const AccountPageValues values{establishment, client, account, exchange, fakes.clock};
+    const testing::SampleAccount sample;
+    const AccountPageValues values{sample.establishment, sample.client, sample.account,
+                                   sample.exchange, fakes.clock};
     PrintBuffer buffer;
     for (auto _ : state) {
         fillClientAccount(buffer, values, draw);

@@ -11,6 +11,7 @@
 #include "gui/app/FontSubstitutions.h"
 #include "gui/ports/QtPrinter.h"
 #include "support/FakeQuestions.h"
+#include "support/SampleAccount.h"
 
 using namespace purrlodge;
 using namespace purrlodge::testing;
@@ -28,27 +29,13 @@ QString pdfText(const QString& file)
     return QString::fromUtf8(reader.readAllStandardOutput());
 }
 
-// A prepared account for Ann Smith's two cats: four days in Sterling.
+// The sample account as the session's account in preparation.
 void prepareAccount(Session& session)
 {
-    session.establishment.name.set("Whiskers Lodge");
-    session.establishment.address[0].set("1 Mill Lane");
-    session.establishment.displayFlags.set("CA");
-    session.client.style.set("Mrs");
-    session.client.firstName.set("Ann");
-    session.client.surname.set("Smith");
-    session.client.catName[0].set("Tibbles");
-    session.client.catName[1].set("Felix");
-    AccountRecord& account = session.account;
-    account.receiptNumber.set(1042);
-    account.arrivalDate.set("01/03/24");
-    account.departureDate.set("04/03/24");
-    account.daysCharged.set(4);
-    account.rateUsed.set(21.5f);
-    account.grossBoard.set(86.0f);
-    account.netBoard.set(86.0f);
-    account.finalBalance.set(86.0f);
-    account.currencySign = 0xA3;
+    const SampleAccount sample;
+    session.establishment = sample.establishment;
+    session.client = sample.client;
+    session.account = sample.account;
 }
 
 } // namespace
@@ -86,10 +73,11 @@ private slots:
         const QString account = pdfText(folder + u'/' + files[files.size() - 2]);
         const QString copy = pdfText(folder + u'/' + files.last());
         QVERIFY2(account.contains(u"Whiskers Lodge"_s) && account.contains(u"No.1042"_s) &&
-                     account.contains(u"Balance due: \u00a386.00"_s) &&
+                     account.contains(u"Balance due: \u00a3125.00"_s) &&
                      account.contains(u"Thank you!"_s),
                  qPrintable(account));
-        QVERIFY2(copy.contains(u"Balance: \u00a386.00"_s) && copy.contains(u"Tibbles, Felix,"_s),
+        QVERIFY2(copy.contains(u"Balance: \u00a3125.00"_s) &&
+                     copy.contains(u"Tibbles, Felix, Smudge,"_s),
                  qPrintable(copy));
         QVERIFY2(files[files.size() - 2].startsWith(u"Client's Account "_s), qPrintable(files[0]));
         for (const QString& file : files)

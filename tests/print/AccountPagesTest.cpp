@@ -10,6 +10,7 @@
 #include "print/PrintJobRunner.h"
 #include "store/RandomDraw.h"
 #include "support/FakePorts.h"
+#include "support/SampleAccount.h"
 
 namespace purrlodge {
 namespace {
@@ -19,44 +20,10 @@ using Lines = std::vector<std::string>;
 const std::string pound = "\xA3";
 const std::string euro = "\x80";
 
-class AccountPagesTest : public ::testing::Test {
+class AccountPagesTest : public ::testing::Test, protected testing::SampleAccount {
 protected:
     AccountPagesTest()
     {
-        establishment.name.set("Whiskers Lodge");
-        establishment.manager.set("Jo Bloggs");
-        const char* lines[] = {"1 Mill Lane", "Upton", "Kent", "CT1 2AB"};
-        for (int line = 0; line < 4; ++line)
-            establishment.address[line].set(lines[line]);
-        establishment.telephone.set("01227 555");
-        establishment.fax.set("01227 556");
-        establishment.email.set("jo@example.com");
-        establishment.namesOnAccounts.set("Jo & Sam");
-        establishment.chequesPayableTo.set("Whiskers Lodge Ltd");
-        establishment.chequesColour.set("**RED**");
-        establishment.displayFlags.set("CA");
-
-        client.style.set("Mrs");
-        client.firstName.set("Ann");
-        client.surname.set("Smith");
-        client.address[0].set("2 High St");
-        client.address[2].set("Canterbury");
-        client.telephone.set("01227 777");
-        const char* cats[] = {"Tibbles", "Felix", "Smudge", "Tom", "Kitty"};
-        for (int cat = 0; cat < 5; ++cat)
-            client.catName[cat].set(cats[cat]);
-        account.catNotBoarded[5].set(1);
-
-        account.receiptNumber.set(1042);
-        account.arrivalDate.set("01/03/05");
-        account.departureDate.set("05/03/05");
-        account.daysCharged.set(5);
-        account.rateUsed.set(25.0f);
-        account.grossBoard.set(125.0f);
-        account.netBoard.set(125.0f);
-        account.finalBalance.set(125.0f);
-        exchange.pencePerEuro.set(62.5f);
-        exchange.showEuros.set(1);
         values.currencySign = 0xA3;
         values.inSterling = true;
         values.accountNote = "Thank you";
@@ -118,10 +85,6 @@ protected:
         return lines();
     }
 
-    EstablishmentRecord establishment{};
-    ClientRecord client{};
-    AccountRecord account{};
-    ExchangeRateRecord exchange{};
     testing::FakeClock clock;
     testing::FakeRandom random{{13}};
     RandomDraw draw{random, clock};
