@@ -142,12 +142,8 @@ bool checkClientIndexes(Session& session)
     const bool mayWrite = repairIndexFile(session, currentIndexFile, session.index);
 
     ClientIndex past{};
-    if (session.folder.read(pastIndexFile, past)) {
-        // The past clients' list has always counted an empty list as -1.
-        if (past.count.get() == -1)
-            past.count.set(0);
+    if (readStoredPastIndex(session.folder, past))
         static_cast<void>(repairIndexFile(session, pastIndexFile, past));
-    }
 
     const std::vector<std::string> unsafe = unsafeCodeEntries(session.index);
     if (!unsafe.empty()) {

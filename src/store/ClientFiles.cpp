@@ -44,11 +44,17 @@ bool writeIndex(const DataFolder& folder, const ClientIndex& index)
     return folder.write(currentIndexFile, index);
 }
 
-bool readPastIndex(const DataFolder& folder, ClientIndex& past)
+bool readStoredPastIndex(const DataFolder& folder, ClientIndex& past)
 {
     const bool opened = folder.read(pastIndexFile, past);
     if (past.count.get() == -1)
         past.count.set(0);
+    return opened;
+}
+
+bool readPastIndex(const DataFolder& folder, ClientIndex& past)
+{
+    const bool opened = readStoredPastIndex(folder, past);
     // Start-up has told the person of any damage; here it is only put right.
     if (opened)
         static_cast<void>(

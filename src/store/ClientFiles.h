@@ -42,8 +42,10 @@ bool readStayRecord(const DataFolder& folder, std::string_view code, StayRecord&
 bool readIndex(const DataFolder& folder, ClientIndex& index);
 [[nodiscard]] bool writeIndex(const DataFolder& folder, const ClientIndex& index);
 
-// Reads OFIDEX.CTL; a missing file is an empty list, a stored count of -1 is
-// 0, and a damaged list is repaired in memory from its own entries.
+// Reads OFIDEX.CTL as it stands; a missing file is an empty list and a stored
+// count of -1 (how the list has always said empty) is 0.
+bool readStoredPastIndex(const DataFolder& folder, ClientIndex& past);
+// The same, with a damaged list repaired in memory from its own entries.
 bool readPastIndex(const DataFolder& folder, ClientIndex& past);
 // Sorts a past-client index the same way and writes it to OFIDEX.CTL.
 [[nodiscard]] bool sortAndWritePastIndex(const DataFolder& folder, ClientIndex& past);
