@@ -45,6 +45,18 @@ QString fileNameOf(const std::string& title)
     return name;
 }
 
+// Draws the one page of a job on the printer or PDF file: Printed when the
+// device took it.
+PrintOutcome drawPageOn(QPagedPaintDevice& device, const std::function<void(Canvas&)>& drawPage)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        return PrintOutcome::Failed;
+    TBlindPrintout page(painter);
+    drawPage(page);
+    return painter.end() ? PrintOutcome::Printed : PrintOutcome::Failed;
+}
+
 } // namespace
 
 QtPrinter::QtPrinter(QString printoutsFolder)
@@ -97,12 +109,7 @@ PrintOutcome QtPrinter::printPage(const std::string& title, bool prompt,
         if (dialog.exec() != QDialog::Accepted)
             return PrintOutcome::Cancelled;
     }
-    QPainter painter;
-    if (!painter.begin(&job))
-        return PrintOutcome::Failed;
-    TBlindPrintout page(painter);
-    drawPage(page);
-    return painter.end() ? PrintOutcome::Printed : PrintOutcome::Failed;
+    return drawPageOn(job, drawPage);
 }
 
 PrintOutcome QtPrinter::saveAsPdf(const std::string& title,
@@ -123,13 +130,9 @@ PrintOutcome QtPrinter::saveAsPdf(const std::string& title,
     writer.setPageLayout(pdfLayout_);
     writer.setTitle(fromWindows1252(title));
     writer.setCreator(QStringLiteral("Purrlodge"));
-    QPainter painter;
-    if (!painter.begin(&writer))
-        return PrintOutcome::Failed;
-    TBlindPrintout page(painter);
-    drawPage(page);
-    if (!painter.end())
-        return PrintOutcome::Failed;
+    const PrintOutcome outcome = drawPageOn(writer, drawPage);
+    if (outcome != PrintOutcome::Printed)
+        return outcome;
     savedFiles_.push_back(toWindows1252(QDir::toNativeSeparators(path)));
     return PrintOutcome::Printed;
 }
