@@ -51,6 +51,8 @@ struct AccountPrintout {
     std::string accountNote;
     std::string standardExtraName;
     float standardExtraAmount = 0.0f;
+    // The names to appear on accounts, printed under the cattery's name.
+    bool insertNamesLine = false;
 };
 
 // Prints the session's account in preparation for its current client and the
@@ -58,5 +60,10 @@ struct AccountPrintout {
 // most once; tells where they went without a printer. Returns false when a
 // page that was to print did not (cancelled or failed).
 bool printAccountAndCopy(Session& session, const AccountPrintout& printout);
+
+// Prints the session's account in preparation again as "Past Account": the
+// client's account page alone, with the account note and the standard extra
+// as they are now set. Whether it printed.
+bool reprintPastAccount(Session& session);
 
 } // namespace purrlodge
