@@ -13,7 +13,7 @@ seconds=${1:-${PURRLODGE_FUZZ_SECONDS:-15}}
 # repeatable, and a longer local run covers what a shorter one tries.
 # PURRLODGE_FUZZ_SEED=0 lets libFuzzer choose a seed of its own.
 seed=${PURRLODGE_FUZZ_SEED:-1}
-targets=(index client_record stay_and_rates cattery_files other_cats settings dates client_form)
+targets=(index client_record stay_and_rates cattery_files other_cats settings dates client_form account_book)
 
 scripts/setup.sh
 CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \

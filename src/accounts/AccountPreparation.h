@@ -41,8 +41,6 @@ struct AccountPreparationForm {
     bool omitCopy = false;                   // 134
     std::string additionalNotes;             // 137 (at most 120 characters)
     bool hasSpecialNotes = false;            // 139 shown: the client has a note book
-
-    friend bool operator==(const AccountPreparationForm&, const AccountPreparationForm&) = default;
 };
 
 inline constexpr std::size_t additionalNotesLimit = 120;
