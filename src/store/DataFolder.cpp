@@ -1,5 +1,6 @@
 #include "store/DataFolder.h"
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -136,6 +137,21 @@ bool DataFolder::existsIgnoringCase(std::string_view name) const
             return true;
     }
     return false;
+}
+
+std::vector<std::string> DataFolder::namesWithExtension(std::string_view extension) const
+{
+    const std::string wanted = toUpper(extension);
+    std::vector<std::string> names;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(toPath(folder_), error)) {
+        std::string name = windows1252Of(entry.path().filename());
+        if (name.size() > wanted.size() && toUpper(name).ends_with(wanted) &&
+            entry.is_regular_file(error))
+            names.push_back(std::move(name));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 bool DataFolder::remove(std::string_view name) const

@@ -78,6 +78,9 @@ public:
     [[nodiscard]] bool existsIgnoringCase(std::string_view name) const;
 
     bool remove(std::string_view name) const;
+    // The names of the folder's files whose name ends in `extension`, compared
+    // without regard to case, in file-name order.
+    [[nodiscard]] std::vector<std::string> namesWithExtension(std::string_view extension) const;
 
     // The size of the file in bytes; nothing when there is no such file.
     [[nodiscard]] std::optional<std::uintmax_t> fileSize(std::string_view name) const;

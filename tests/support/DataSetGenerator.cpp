@@ -9,11 +9,13 @@
 #include <string>
 #include <string_view>
 
+#include "accounts/AccountBook.h"
 #include "app/PortableRandom.h"
 #include "clients/AutoMemo.h"
 #include "store/ClientCode.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
+#include "store/Dates.h"
 #include "store/IndexOperations.h"
 #include "store/RandomDraw.h"
 #include "store/TextHelpers.h"
@@ -112,6 +114,24 @@ ClientRecord makeClient(Picker& pick, int number)
     return client;
 }
 
+// A full book of ten accounts numbered from `first`, a fortnight apart.
+AccountBook makeAccountBook(Picker& pick, const ClientRecord& client, int first)
+{
+    AccountBook book{};
+    for (int slot = 0; slot < accountBookSlots; ++slot) {
+        AccountRecord& account = book.accounts[slot];
+        account.receiptNumber.set(first + slot);
+        const int day = 1 + 14 * slot;
+        account.arrivalDate.set(formatDateText(day % 28 + 1, day / 28 + 1, 24));
+        account.departureDate.set(formatDateText(day % 28 + 1, day / 28 + 2, 24));
+        account.catNames[0].set(client.catName[0].str());
+        account.catsBoarded.set(1);
+        account.finalBalance.set(static_cast<float>(40 + pick.below(200)));
+        account.currencySign = 0xA3;
+    }
+    return book;
+}
+
 } // namespace
 
 ClientIndex generateDataSet(const DataFolder& folder, int clients, unsigned seed)
@@ -141,8 +161,11 @@ ClientIndex generateDataSet(const DataFolder& folder, int clients, unsigned seed
                           std::string(pick.from(foods)) + " - number " + std::to_string(number));
             writeBlock(folder, clientFileName(code, extension::autoMemo), memo);
         }
+        writeBlock(folder, clientFileName(code, extension::accountBook),
+                   makeAccountBook(pick, client, 1000 + (number - 1) * accountBookSlots));
         appendEntry(index, client.surname.str(), code);
     }
+    index.lastAccountNumber.set(1000 + count * accountBookSlots - 1);
     sortIndexEntries(index);
     writeBlock(folder, std::string(currentIndexFile), index);
     return index;

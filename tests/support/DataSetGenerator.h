@@ -11,8 +11,9 @@ namespace purrlodge::testing {
 // Writes a full data set into the folder through the program's own record
 // types: `clients` client records (at most 599) with up to six cats each, every
 // field Global Search looks in filled (some notes lines red), an auto memo for
-// about one client in five, and FIDEX.CTL sorted as start-up leaves it. The
-// same seed always gives the same data set. Returns the index as written.
+// about one client in five, ten accounts for every client (numbered from 1000
+// on, the counter at the last), and FIDEX.CTL sorted as start-up leaves it.
+// The same seed always gives the same data set. Returns the index as written.
 ClientIndex generateDataSet(const DataFolder& folder, int clients, unsigned seed);
 
 } // namespace purrlodge::testing

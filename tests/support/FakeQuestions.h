@@ -11,6 +11,8 @@
 #include "app/commands/ChangeDataSet.h"
 #include "app/commands/ClientEntry.h"
 #include "app/commands/ClientLookup.h"
+#include "app/commands/IssueAccount.h"
+#include "app/commands/PastAccounts.h"
 
 namespace purrlodge::testing {
 
@@ -195,6 +197,93 @@ struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
     std::deque<std::optional<GlobalSearchRequest>> searches;
     std::vector<GlobalSearchResult> results;
     std::vector<std::size_t> detailsOfLines; // lines whose "Show Details" is pressed
+};
+
+// The account commands' questions answered from scripts; records what was asked.
+struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions {
+    using Typing = std::function<void(AccountPreparationForm&, AccountPreparation&)>;
+
+    std::optional<FinderEntry> askClientName(const FinderOptions&, const FinderEntry&) override
+    {
+        return next(names);
+    }
+    std::optional<int> chooseMatch(const FinderResult&) override { return next(matches); }
+
+    bool askToDeleteAutoMemo(const std::string& caption, const std::string& memo) override
+    {
+        asked.push_back(caption + ": " + memo);
+        return deleteMemo;
+    }
+    // Account Preparation: each entry of `typing` changes the entries as they
+    // stand and presses OK; when the script runs out the dialog is cancelled.
+    std::optional<FormVerdict> fillAccountPreparation(const AccountPreparationForm& initial,
+                                                      AccountPreparation& preparation,
+                                                      const OkRule<AccountPreparationForm>& onOk) override
+    {
+        opened.push_back(initial);
+        AccountPreparationForm form = initial;
+        while (!typing.empty()) {
+            next(typing)(form, preparation);
+            verdicts.push_back(onOk(form));
+            if (verdicts.back() != FormVerdict::StayOpen)
+                return verdicts.back();
+        }
+        return std::nullopt;
+    }
+    void showApparentDateError(const DateWarning& warning) override
+    {
+        asked.push_back(warning.message + " / " + warning.detail);
+    }
+    bool confirmLongStay(const std::string& question) override
+    {
+        asked.push_back(question);
+        return next(longStayRight);
+    }
+    SimilarAccountAnswer askSimilarAccount(const std::string& question) override
+    {
+        asked.push_back(question);
+        return next(similarAnswers, SimilarAccountAnswer::KeepBoth);
+    }
+
+    std::optional<PastAccountChoice> chooseInAccountList(const ClientAccountsList& list) override
+    {
+        lists.push_back(list);
+        return next(listChoices);
+    }
+    void showAccountSummary(const std::vector<std::string>& lines) override
+    {
+        summaries.push_back(lines);
+    }
+    bool confirmAccountDeletion(const std::string& question) override
+    {
+        asked.push_back(question);
+        return next(deleteAnswers);
+    }
+    std::optional<FormVerdict> askAccountNumber(const OkRule<std::string>& onOk) override
+    {
+        return accountNumber.run({}, onOk);
+    }
+    void showNumberedAccounts(const std::vector<std::string>& lines) override
+    {
+        found.push_back(lines);
+    }
+
+    std::deque<std::optional<FinderEntry>> names;
+    std::deque<std::optional<int>> matches;
+    bool deleteMemo = false;
+    std::deque<Typing> typing;
+    std::vector<AccountPreparationForm> opened;
+    std::vector<FormVerdict> verdicts;
+    std::deque<bool> longStayRight;
+    std::deque<SimilarAccountAnswer> similarAnswers;
+    std::vector<std::string> asked;
+
+    std::deque<std::optional<PastAccountChoice>> listChoices;
+    std::vector<ClientAccountsList> lists;
+    std::vector<std::vector<std::string>> summaries;
+    std::deque<bool> deleteAnswers;
+    ScriptedForm<std::string> accountNumber;
+    std::vector<std::vector<std::string>> found;
 };
 
 } // namespace purrlodge::testing

@@ -56,7 +56,10 @@ void printClientDetails(Session& session, const ClientDetailsListing& listing)
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
 }
 
-bool printAccountAndCopy(Session& session, const AccountPrintout& printout)
+namespace {
+
+// The account pages' values for the session's account, client and cattery.
+AccountPageValues accountPageValues(Session& session, const AccountPrintout& printout)
 {
     const ColourPrintingForm colours =
         colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile);
@@ -71,13 +74,36 @@ bool printAccountAndCopy(Session& session, const AccountPrintout& printout)
     values.accountInColour = colours.inColour[static_cast<std::size_t>(ColourItem::ClientsAccount)];
     values.copyInColour = colours.inColour[static_cast<std::size_t>(ColourItem::AccountCopy)];
     values.nameColourIndex = colours.nameColour;
-    values.namesLineOn = colours.namesOnAccount;
+    values.namesLineOn = printout.insertNamesLine;
+    return values;
+}
 
+} // namespace
+
+bool printAccountAndCopy(Session& session, const AccountPrintout& printout)
+{
+    const AccountPageValues values = accountPageValues(session, printout);
     PrinterJobs jobs(session.ports.printer);
     const AccountPairOutcome outcome =
         printAccountPair(values, session.printBuffer, session.draw, session.printDialog, jobs);
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
     return outcome == AccountPairOutcome::Printed;
+}
+
+bool reprintPastAccount(Session& session)
+{
+    const bool namesLineOn =
+        colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile)
+            .namesOnAccount;
+    const AccountPrintout printout{session.rates.accountNote.str(),
+                                   session.rates.standardExtraName.str(),
+                                   session.rates.standardExtraCharge.get(), namesLineOn};
+    const AccountPageValues values = accountPageValues(session, printout);
+    fillClientAccount(session.printBuffer, values, session.draw);
+    PrinterJobs jobs(session.ports.printer);
+    const bool printed = runPrintJob(jobs, "Past Account", session.printBuffer, session.printDialog);
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+    return printed;
 }
 
 } // namespace purrlodge
