@@ -4,6 +4,7 @@
 #include "accounts/AccountPreparation.h"
 #include "clients/AutoMemo.h"
 #include "gui/ShellFixture.h"
+#include "gui/Text1252.h"
 #include "gui/accounts/TDlg25.h"
 #include "gui/accounts/TDlg79.h"
 #include "gui/accounts/TDlg8.h"
@@ -93,17 +94,17 @@ private slots:
             [&](QWidget* d) {
                 QCOMPARE(d->focusWidget()->objectName(), u"extrasDescriptionEdit"_s);
                 QCOMPARE(labelText(d, u"countLabel"_s),
-                         QString::fromStdString(expected.preparation.recompute(initial).count));
+                         fromWindows1252(expected.preparation.recompute(initial).count));
                 QVERIFY(button(d, u"cat2CheckBox"_s)->isVisible());
                 QCOMPARE(button(d, u"cat2CheckBox"_s)->text(), u"Smudge && Co"_s);
                 QVERIFY(!button(d, u"cat3CheckBox"_s)->isVisible());
-                // Yes shows the extra's name and amount, No hides them again.
-                QVERIFY(!edit(d, u"extraAmountEdit"_s)->isVisible());
-                button(d, u"extraYesRadioButton"_s)->click();
+                // No hides the extra's name and amount, Yes shows them again.
                 QVERIFY(edit(d, u"extraAmountEdit"_s)->isVisible());
                 button(d, u"extraNoRadioButton"_s)->click();
+                QVERIFY(!edit(d, u"extraAmountEdit"_s)->isVisible());
                 QVERIFY(!child<QLabel>(d, u"extraNameLabel"_s)->isVisible());
                 button(d, u"extraYesRadioButton"_s)->click();
+                QVERIFY(edit(d, u"extraAmountEdit"_s)->isVisible());
                 button(d, u"specialNotesButton"_s)->click();
                 // No cat ticked: the refusal is shown and nothing else changes.
                 button(d, u"cat1CheckBox"_s)->click();
@@ -127,15 +128,14 @@ private slots:
             },
             [&](QWidget* d) {
                 QCOMPARE(labelText(d, u"arrivalLabel"_s), u"02/03/23"_s);
-                QCOMPARE(labelText(d, u"chargeLabel"_s),
-                         QString::fromStdString(
-                             expected.preparation.recompute(laterDates).basicBoardCharge));
+                QCOMPARE(
+                    labelText(d, u"chargeLabel"_s),
+                    fromWindows1252(expected.preparation.recompute(laterDates).basicBoardCharge));
                 clickLater(button(d, u"testDiscountButton"_s));
             },
             [&](QWidget* calculation) {
                 QCOMPARE(labelText(calculation, u"calculationLabel"_s),
-                         QString::fromStdString(
-                             expected.preparation.recompute(laterDates).discountTest));
+                         fromWindows1252(expected.preparation.recompute(laterDates).discountTest));
                 press(QDialogButtonBox::Close)(calculation);
             },
             [](QWidget* d) {
@@ -167,8 +167,7 @@ private slots:
         QCOMPARE(form.extrasAmount, "7.25");
         QCOMPARE(form.receiptNumber, "1001");
         QVERIFY(form.standardExtra.charged && form.standardExtra.yesTicked);
-        QCOMPARE(form.standardExtra.amountText, "\xA3"
-                                                "5.00");
+        QCOMPARE(fromWindows1252(form.standardExtra.amountText), u"\u00a35.00"_s);
     }
 
     void withoutDatesTheCursorStartsOnAlterDates()
@@ -179,10 +178,8 @@ private slots:
         initial.hasSpecialNotes = false;
         TDlg8 dialog(initial, shown.preparation,
                      [](const AccountPreparationForm&) { return FormVerdict::Accept; }, {});
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        QCOMPARE(QApplication::focusWidget()->objectName(), u"alterDatesButton"_s);
-        QVERIFY(!button(&dialog, u"specialNotesButton"_s)->isVisible());
+        QCOMPARE(dialog.focusWidget()->objectName(), u"alterDatesButton"_s);
+        QVERIFY(button(&dialog, u"specialNotesButton"_s)->isHidden());
     }
 
     void accountListAndSimilarityQuestionGiveTheButtonPressed()
@@ -192,11 +189,8 @@ private slots:
                                       {1001, 1002, 0, 0}};
         const auto listAnswer = [&](const std::function<void(QListWidget*, QWidget*)>& act) {
             TDlg25 dialog(list);
-            ModalAnswers answers({[&](QWidget* d) {
-                QCOMPARE(labelText(d, u"titleLabel"_s),
-                         u"Client's Most Recent Accounts (Max 10)"_s);
-                act(child<QListWidget>(d, u"accountsList"_s), d);
-            }});
+            ModalAnswers answers(
+                {[&](QWidget* d) { act(child<QListWidget>(d, u"accountsList"_s), d); }});
             dialog.exec();
             return dialog.choice();
         };
@@ -218,12 +212,18 @@ private slots:
                      QTest::keyClick(lines, Qt::Key_Escape);
                  }).has_value());
 
+        // Escape is Go Back, the answer that files nothing over the old account.
         for (const auto& [pressed, expected] :
              {std::pair{u"yesButton"_s, SimilarAccountAnswer::Substitute},
               std::pair{u"noButton"_s, SimilarAccountAnswer::KeepBoth},
-              std::pair{u"goBackButton"_s, SimilarAccountAnswer::GoBack}}) {
+              std::pair{QString(), SimilarAccountAnswer::GoBack}}) {
             TDlg79 dialog("This account No.1002 looks very similar");
-            ModalAnswers answers({[&](QWidget* d) { clickLater(button(d, pressed)); }});
+            ModalAnswers answers({[&](QWidget* d) {
+                if (pressed.isEmpty())
+                    QTest::keyClick(d, Qt::Key_Escape);
+                else
+                    clickLater(button(d, pressed));
+            }});
             dialog.exec();
             QCOMPARE(dialog.answer(), expected);
         }
@@ -257,13 +257,17 @@ private slots:
                 pressOk(d);
             },
             pressOk, // the accounts found
+            typeName(u"Nguyen"_s), pressOk,
+            press(QDialogButtonBox::Close), // This Client's Accounts
         });
         shell.trigger(command::issueAccount);
         shell.trigger(command::findNumberedAccount);
+        shell.trigger(command::viewPastAccounts);
 
         QCOMPARE(answers.seen(), u"Client Index|Matching Clients|An Auto Memo Exists!|"
                                  u"Account Preparation|Find Numbered Account|Data Missing|"
-                                 u"Find Numbered Account|Numbered Accounts"_s);
+                                 u"Find Numbered Account|Numbered Accounts|Client Index|"
+                                 u"Matching Clients|This Client's Accounts"_s);
     }
 };
 
