@@ -28,6 +28,14 @@ QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent)
     return label;
 }
 
+QLabel* newStaticLabel(const QString& objectName, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
 std::string fieldText(const QLineEdit& edit)
 {
     return toWindows1252(edit.text());

@@ -22,6 +22,9 @@ QLineEdit* newNumberEdit(const QString& objectName, std::size_t fieldWidth, int 
 // focus to the edit.
 QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent);
 
+// A static: a named label whose text is shown as it stands, never as markup.
+QLabel* newStaticLabel(const QString& objectName, QWidget* parent);
+
 // The box's text as the core keeps it (1252 bytes) and back.
 [[nodiscard]] std::string fieldText(const QLineEdit& edit);
 void setFieldText(QLineEdit& edit, std::string_view bytes);

@@ -14,4 +14,18 @@ QRadioButton* newRadioButton(const QString& text, const QString& objectName, QBu
     return button;
 }
 
+void keepOneTabStop(QButtonGroup* group)
+{
+    const auto update = [group] {
+        const QList<QAbstractButton*> buttons = group->buttons();
+        QAbstractButton* stop = group->checkedButton();
+        if (stop == nullptr && !buttons.isEmpty())
+            stop = buttons.first();
+        for (QAbstractButton* button : buttons)
+            button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    };
+    QObject::connect(group, &QButtonGroup::buttonToggled, group, update);
+    update();
+}
+
 } // namespace purrlodge

@@ -14,4 +14,9 @@ namespace purrlodge {
 QRadioButton* newRadioButton(const QString& text, const QString& objectName, QButtonGroup* group,
                              QWidget* parent, int id = -1);
 
+// Tab stops once in a group of radio buttons, on its checked button (the
+// first when none is checked), and the arrow keys move within the group.
+// Without this the Tab key lands on whichever button was created first.
+void keepOneTabStop(QButtonGroup* group);
+
 } // namespace purrlodge

@@ -23,31 +23,6 @@ namespace {
 // A rate edit takes 7 characters; the field counts its terminator.
 constexpr std::size_t rateFieldWidth = 8;
 
-QLabel* newStatic(const QString& objectName, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-// Tab stops once in a group of radio buttons, on its checked button (the
-// first when none is checked), and the arrow keys move within the group.
-// Without this the Tab key lands on whichever button was created first.
-void keepOneTabStop(QButtonGroup* group)
-{
-    const auto update = [group] {
-        const QList<QAbstractButton*> buttons = group->buttons();
-        QAbstractButton* stop = group->checkedButton();
-        if (stop == nullptr && !buttons.isEmpty())
-            stop = buttons.first();
-        for (QAbstractButton* button : buttons)
-            button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
-    };
-    QObject::connect(group, &QButtonGroup::buttonToggled, group, update);
-    update();
-}
-
 } // namespace
 
 TDlg14::TDlg14(const RatesForm& initial, AcceptForm acceptForm, QWidget* parent)
@@ -57,8 +32,8 @@ TDlg14::TDlg14(const RatesForm& initial, AcceptForm acceptForm, QWidget* parent)
     setObjectName(QStringLiteral("ratesDialog"));
     setWindowTitle(QStringLiteral("Setup Daily Board Rates"));
 
-    todayLabel_ = newStatic(QStringLiteral("todayLabel"), this);
-    previousSetLabel_ = newStatic(QStringLiteral("previousSetLabel"), this);
+    todayLabel_ = newStaticLabel(QStringLiteral("todayLabel"), this);
+    previousSetLabel_ = newStaticLabel(QStringLiteral("previousSetLabel"), this);
 
     // Built in the order the Tab key should visit them.
     QWidget* ratesBox = newRatesBox();
@@ -116,7 +91,7 @@ QWidget* TDlg14::newRatesBox()
                                                       : QStringLiteral("&%1 cats:").arg(number),
                                           edit, box);
 
-        QLabel* previous = newStatic(QStringLiteral("previousRate%1Label").arg(number), box);
+        QLabel* previous = newStaticLabel(QStringLiteral("previousRate%1Label").arg(number), box);
         previous->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         previous->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         // Not fixed: a rate saved with more digits than an edit takes still shows whole.

@@ -12,8 +12,11 @@
 #include "accounts/ExchangeRateSetup.h"
 #include "app/CommandIds.h"
 #include "app/Session.h"
+#include "app/commands/IssueAccount.h"
+#include "app/commands/PastAccounts.h"
 #include "app/commands/Printing.h"
 #include "app/commands/ShellToggles.h"
+#include "clients/OtherCatsList.h"
 #include "gui/app/ClockFace.h"
 #include "gui/app/MainMenu.h"
 #include "gui/app/MainToolBar.h"
@@ -37,7 +40,8 @@ QIcon toolBarIcon(const QString& resource)
 
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
-      clockFace_(new ClockFace(session, this)), clockTimer_(new QTimer(this))
+      accountQuestions_(this), clockFace_(new ClockFace(session, this)),
+      clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(clockFace_);
@@ -166,6 +170,15 @@ void TMyWindow::buildCommandTable()
                [this] { editClientDetails(session_, clientQuestions_); });
     setCommand(command::newClient, [this] { newClient(session_, clientQuestions_); });
     setCommand(command::globalSearch, [this] { globalSearch(session_, clientQuestions_); });
+    setCommand(command::issueAccount, [this] { issueAccount(session_, accountQuestions_); });
+    accountQuestions_.setSpecialNotesSource([this] {
+        return otherCatsListing(session_.folder, session_.clientCode, session_.client,
+                                OtherCatsMode::NoteBook);
+    });
+    setCommand(command::viewPastAccounts,
+               [this] { viewPastAccounts(session_, accountQuestions_); });
+    setCommand(command::findNumberedAccount,
+               [this] { findNumberedAccount(session_, accountQuestions_); });
     setCommand(command::exitProgram, [this] { close(); });
 
     // Good-Housekeeping

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
 
@@ -72,6 +73,7 @@ private:
     Session& session_;
     QtSetupQuestions setupQuestions_;
     QtClientQuestions clientQuestions_;
+    QtAccountQuestions accountQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;

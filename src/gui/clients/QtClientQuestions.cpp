@@ -1,13 +1,12 @@
 #include "gui/clients/QtClientQuestions.h"
 
 #include "gui/FrontWindow.h"
+#include "gui/clients/FinderDialogs.h"
 #include "gui/clients/TDlg12.h"
 #include "gui/clients/TDlg16.h"
-#include "gui/clients/TDlg2.h"
 #include "gui/clients/TDlg3.h"
 #include "gui/clients/TDlg37.h"
 #include "gui/clients/TDlg38.h"
-#include "gui/clients/TDlg4.h"
 #include "gui/clients/TDlg5.h"
 #include "gui/clients/TDlg50.h"
 #include "gui/clients/TDlg51.h"
@@ -23,19 +22,12 @@ QWidget* QtClientQuestions::parent() const
 std::optional<FinderEntry> QtClientQuestions::askClientName(const FinderOptions& options,
                                                             const FinderEntry& shown)
 {
-    TDlg4 dialog(options, parent());
-    dialog.showEntry(shown.name, shown.search);
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return FinderEntry{dialog.name(), dialog.search()};
+    return askClientNameInDialog(options, shown, parent());
 }
 
 std::optional<int> QtClientQuestions::chooseMatch(const FinderResult& result)
 {
-    TDlg2 dialog(result, parent());
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return dialog.chosenMatch();
+    return chooseMatchInDialog(result, parent());
 }
 
 std::optional<FormVerdict> QtClientQuestions::fillClientForm(const ClientForm& initial,

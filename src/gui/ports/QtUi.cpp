@@ -28,12 +28,17 @@ QMessageBox::Icon boxIcon(MessageIcon icon)
 
 } // namespace
 
-void QtUi::showMessage(const Message& message)
+void showMessageBox(const Message& message, QWidget* parent)
 {
     QMessageBox box(boxIcon(message.icon), fromWindows1252(message.title),
-                    fromWindows1252(message.text), QMessageBox::Ok, frontWindow(mainWindow_));
+                    fromWindows1252(message.text), QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText); // the program's texts are never markup
     box.exec();
+}
+
+void QtUi::showMessage(const Message& message)
+{
+    showMessageBox(message, frontWindow(mainWindow_));
 }
 
 } // namespace purrlodge

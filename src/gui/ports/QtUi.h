@@ -7,6 +7,10 @@
 
 namespace purrlodge {
 
+// A modal message box with an OK button, showing the message (1252 bytes) as
+// plain text over the parent.
+void showMessageBox(const Message& message, QWidget* parent);
+
 // The Ui port on Qt widgets: message boxes, each modal over whatever window is
 // in front.
 class QtUi : public Ui {

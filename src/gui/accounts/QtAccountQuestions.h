@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+
+#include <QPointer>
+#include <QWidget>
+
+#include "app/commands/IssueAccount.h"
+#include "app/commands/PastAccounts.h"
+#include "clients/OtherCatsList.h"
+
+namespace purrlodge {
+
+// The account commands' questions answered with their dialogs: the finder,
+// the memo reminder, Account Preparation with the questions its OK asks, the
+// similarity question, the client's account list and the numbered-account
+// search. Each dialog is modal over the window in front.
+class QtAccountQuestions : public IssueAccountQuestions, public PastAccountsQuestions {
+public:
+    // mainWindow: the owner of the dialogs when no other dialog is open.
+    explicit QtAccountQuestions(QWidget* mainWindow) : mainWindow_(mainWindow) {}
+
+    std::optional<FinderEntry> askClientName(const FinderOptions& options,
+                                             const FinderEntry& shown) override;
+    std::optional<int> chooseMatch(const FinderResult& result) override;
+
+    bool askToDeleteAutoMemo(const std::string& caption, const std::string& memo) override;
+    std::optional<FormVerdict>
+    fillAccountPreparation(const AccountPreparationForm& initial, AccountPreparation& preparation,
+                           const OkRule<AccountPreparationForm>& onOk) override;
+    void showApparentDateError(const DateWarning& warning) override;
+    bool confirmLongStay(const std::string& question) override;
+    SimilarAccountAnswer askSimilarAccount(const std::string& question) override;
+
+    std::optional<PastAccountChoice> chooseInAccountList(const ClientAccountsList& list) override;
+    void showAccountSummary(const std::vector<std::string>& lines) override;
+    bool confirmAccountDeletion(const std::string& question) override;
+    std::optional<FormVerdict> askAccountNumber(const OkRule<std::string>& onOk) override;
+    void showNumberedAccounts(const std::vector<std::string>& lines) override;
+
+    // The current client's note book, for the Special Notes button of Account
+    // Preparation; without it the button is greyed.
+    using SpecialNotesSource = std::function<OtherCatsListing()>;
+    void setSpecialNotesSource(SpecialNotesSource source) { specialNotes_ = std::move(source); }
+
+private:
+    [[nodiscard]] QWidget* parent() const;
+
+    QPointer<QWidget> mainWindow_;
+    SpecialNotesSource specialNotes_;
+};
+
+} // namespace purrlodge
