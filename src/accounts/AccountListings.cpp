@@ -40,8 +40,8 @@ std::string accountListLine(const AccountRecord& account, const Clock& clock)
     const CivilTime filed = clock.toLocal(account.filedTime.get());
     return formatted("   Rec No. %d - in: %s out: %s      (Filed %02d/%02d/%02d at %d:%d)",
                      account.receiptNumber.get(), account.arrivalDate.str().c_str(),
-                     account.departureDate.str().c_str(), filed.day, filed.month,
-                     filed.year - 2000, filed.hour, filed.minute);
+                     account.departureDate.str().c_str(), filed.day, filed.month, filed.year - 2000,
+                     filed.hour, filed.minute);
 }
 
 void addNumberedAccount(std::vector<std::string>& lines, const ClientRecord& client,
@@ -79,9 +79,9 @@ ClientAccountsList clientAccountsList(const AccountBook* book, const Clock& cloc
         total += account.finalBalance.get();
     }
     list.lines.emplace_back();
-    list.lines.push_back(total == 0.0f ? std::string("There are no accounts for this Client")
-                                       : formatted("Total %c %.02f,", poundSign,
-                                                   static_cast<double>(total)));
+    list.lines.push_back(total == 0.0f
+                             ? std::string("There are no accounts for this Client")
+                             : formatted("Total %c %.02f,", poundSign, static_cast<double>(total)));
     list.receiptOfLine.resize(list.lines.size(), 0);
     return list;
 }
@@ -95,13 +95,12 @@ std::optional<int> slotOfAccount(const AccountBook& book, int receiptNumber)
 }
 
 std::vector<std::string> accountSummaryLines(const ClientRecord& client,
-                                             const AccountRecord& account,
-                                             const RatesRecord& rates)
+                                             const AccountRecord& account, const RatesRecord& rates)
 {
     const unsigned char sign = account.currencySign;
     std::vector<std::string> lines;
-    lines.push_back(
-        formatted("%s\tReceipt No. %d", clientNameLine(client).c_str(), account.receiptNumber.get()));
+    lines.push_back(formatted("%s\tReceipt No. %d", clientNameLine(client).c_str(),
+                              account.receiptNumber.get()));
     lines.push_back(formatted("Arrived: %s\tLeft:  %s  (%d %s)", account.arrivalDate.str().c_str(),
                               account.departureDate.str().c_str(), account.daysCharged.get(),
                               chargesPerDay(rates) ? "days" : "nights"));
@@ -109,10 +108,9 @@ std::vector<std::string> accountSummaryLines(const ClientRecord& client,
     for (const std::string& cat : catsBoarded(account))
         lines.push_back("    " + cat);
     lines.push_back(formatted("Gross Board:  %c %.02f", sign, shown(account.grossBoard)));
-    lines.push_back(formatted("Discount (%s) at %.2f%% = %c %.02f",
-                              account.discountDescription.str().c_str(),
-                              shown(account.discountPercentage), sign,
-                              shown(account.discountAmount)));
+    lines.push_back(
+        formatted("Discount (%s) at %.2f%% = %c %.02f", account.discountDescription.str().c_str(),
+                  shown(account.discountPercentage), sign, shown(account.discountAmount)));
     lines.push_back(formatted("Net Board:  %c %.02f", sign, shown(account.netBoard)));
     lines.push_back(formatted("Extras:  %s\t%c %.02f", account.extrasDescription.str().c_str(),
                               sign, shown(account.extrasAmount)));

@@ -35,9 +35,9 @@ struct ClientAccountsList {
 
 // Account Summary (DIALOG 26): the lines showing a filed account, with the
 // charging unit and the standard extra as the rates now set them.
-[[nodiscard]] std::vector<std::string>
-accountSummaryLines(const ClientRecord& client, const AccountRecord& account,
-                    const RatesRecord& rates);
+[[nodiscard]] std::vector<std::string> accountSummaryLines(const ClientRecord& client,
+                                                           const AccountRecord& account,
+                                                           const RatesRecord& rates);
 
 // The number typed into Find Numbered Account (DIALOG 59): nothing typed, or
 // 0, is refused with its message; otherwise the number.

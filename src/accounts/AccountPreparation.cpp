@@ -71,7 +71,17 @@ FeeEntries feeEntriesOf(const AccountPreparationForm& form)
 
 ChargeTexts AccountPreparation::recompute(const AccountPreparationForm& form)
 {
-    const FeeResult result = computeFee(feeEntriesOf(form), rates_, exchangeRate_, clock_, account_);
+    // Without both dates there is no stay to charge: a count from empty dates
+    // would be nonsense.
+    if (!hasLetterOrDigit(form.arrival) || !hasLetterOrDigit(form.departure))
+        return {Message{"The dates of the stay have not been entered yet: press Alter Dates "
+                        "to enter them.",
+                        "Missing Data", MessageIcon::Exclamation},
+                {},
+                {},
+                {}};
+    const FeeResult result =
+        computeFee(feeEntriesOf(form), rates_, exchangeRate_, clock_, account_);
     if (!result.computed())
         return {result.refusal, {}, {}, {}};
     return {std::nullopt, chargedDaysText(account_.daysCharged.get(), chargesPerDay(rates_)),

@@ -23,9 +23,9 @@ class Clock;
 // types into it. The dialog keeps the entries as typed; the fee is worked out
 // from them by AccountPreparation.
 struct AccountPreparationForm {
-    std::string clientLine; // static 145: title, first name and surname
-    std::string arrival;    // static 101 (changed through Alter Dates)
-    std::string departure;  // static 102
+    std::string clientLine;                  // static 145: title, first name and surname
+    std::string arrival;                     // static 101 (changed through Alter Dates)
+    std::string departure;                   // static 102
     std::array<CatBox, catSlotCount> cats;   // boxes 109..114 with names 122..127
     std::array<bool, catSlotCount> catShown; // a box is shown for each cat the client has
     std::string receiptNumber;               // edit 131
@@ -61,7 +61,7 @@ openAccountPreparation(const ClientRecord& client, const StayRecord& stay, const
 // What a computation shows: the count (static 115), the basic board charge
 // (static 117) and the text of the Discount Calculation (DIALOG 9).
 struct ChargeTexts {
-    std::optional<Message> refusal; // "Names no Ticked": nothing was computed
+    std::optional<Message> refusal; // no dates, or "Names no Ticked": nothing was computed
     std::string count;
     std::string basicBoardCharge;
     std::string discountTest;
@@ -80,6 +80,7 @@ public:
 
     // The opening computation, "Press to register any Change" and "Test
     // Discount": the account worked out from the entries as they stand.
+    // Refused while either date is missing, or while no cat is ticked.
     [[nodiscard]] ChargeTexts recompute(const AccountPreparationForm& form);
 
     // "Register Change" of New Dates for Account (DIALOG 47). A four-digit
@@ -88,8 +89,8 @@ public:
     // not here). When they pass, the form takes them in "dd/mm/yy" form and
     // the account is worked out again; otherwise the form is left alone and
     // the check says what to show in Apparent Date Error (DIALOG 16).
-    [[nodiscard]] AccountDatesCheck alterDates(AccountPreparationForm& form,
-                                               std::string arrival, std::string departure);
+    [[nodiscard]] AccountDatesCheck alterDates(AccountPreparationForm& form, std::string arrival,
+                                               std::string departure);
 
     [[nodiscard]] const RatesRecord& rates() const { return rates_; }
 

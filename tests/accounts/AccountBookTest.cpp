@@ -153,10 +153,17 @@ TEST(AccountBookTest, NewDatesAreShortenedCheckedAndCountedAgainEachTime)
     client.catName[0].set("Felix");
     client.arrivalDate.set("01/02/25");
     client.departureDate.set("02/02/25");
-    AccountPreparationForm form = openAccountPreparation(client, StayRecord{}, rates, 7, false, true);
+    AccountPreparationForm form =
+        openAccountPreparation(client, StayRecord{}, rates, 7, false, true);
     EXPECT_EQ(form.arrival + form.departure, "01/02/2502/02/25") << "the client's stay dates";
     EXPECT_TRUE(form.cats[0].ticked) << "a stay with no cats chosen takes them all";
     EXPECT_EQ(form.additionalNotes, "Thank you");
+    client.departureDate.clear();
+    EXPECT_EQ(
+        preparation.recompute(openAccountPreparation(client, StayRecord{}, rates, 7, false, true))
+            .refusal->title,
+        "Missing Data")
+        << "no charge is worked out from a missing date";
 
     EXPECT_EQ(preparation.alterDates(form, "1/3", "5/3/25").message,
               "You seem to have entered wrong dates\nPlease check and try again");
@@ -169,7 +176,8 @@ TEST(AccountBookTest, NewDatesAreShortenedCheckedAndCountedAgainEachTime)
               AccountDatesVerdict::GoOn);
     EXPECT_EQ(form.arrival + "-" + form.departure, "01/03/25-05/03/25");
     const ChargeTexts once = preparation.recompute(form);
-    EXPECT_EQ(once.count + " " + once.basicBoardCharge, "5 days Basic Board Charge \x80" "50.00");
+    EXPECT_EQ(once.count + " " + once.basicBoardCharge, "5 days Basic Board Charge \x80"
+                                                        "50.00");
     EXPECT_EQ(preparation.recompute(form).basicBoardCharge, once.basicBoardCharge);
     EXPECT_EQ(rates.accountNote.str(), "Thank you") << "only OK takes the additional notes";
 

@@ -53,8 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     static_cast<void>(numberedAccountLines(folder, newest.receiptNumber.get()));
 
-    const AccountPreparationForm form = openAccountPreparation(
-        client, stay, rates, newest.receiptNumber.get(), false, false);
+    const AccountPreparationForm form =
+        openAccountPreparation(client, stay, rates, newest.receiptNumber.get(), false, false);
     static_cast<void>(receiptNumberProblem(form));
 
     AccountBook changed = book;

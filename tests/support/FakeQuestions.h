@@ -216,9 +216,9 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions {
     }
     // Account Preparation: each entry of `typing` changes the entries as they
     // stand and presses OK; when the script runs out the dialog is cancelled.
-    std::optional<FormVerdict> fillAccountPreparation(const AccountPreparationForm& initial,
-                                                      AccountPreparation& preparation,
-                                                      const OkRule<AccountPreparationForm>& onOk) override
+    std::optional<FormVerdict>
+    fillAccountPreparation(const AccountPreparationForm& initial, AccountPreparation& preparation,
+                           const OkRule<AccountPreparationForm>& onOk) override
     {
         opened.push_back(initial);
         AccountPreparationForm form = initial;

@@ -15,9 +15,9 @@ void remindOfAutoMemo(Session& session, MemoReminderQuestions& questions)
         return;
     const std::string name = clientFileName(session.clientCode, extension::autoMemo);
     if (!session.folder.remove(name))
-        session.ports.ui.showMessage({"The file " + session.folder.fileName(name) +
-                                          " could not be deleted.",
-                                      "File Error", MessageIcon::Exclamation});
+        session.ports.ui.showMessage(
+            {"The file " + session.folder.fileName(name) + " could not be deleted.", "File Error",
+             MessageIcon::Exclamation});
 }
 
 } // namespace purrlodge

@@ -35,7 +35,8 @@ public:
     {
         Ui& ui = session_.ports.ui;
         if (extraPending_) {
-            if (const auto missing = standardExtraDecisionMissing(session_.rates, form.standardExtra)) {
+            if (const auto missing =
+                    standardExtraDecisionMissing(session_.rates, form.standardExtra)) {
                 ui.showMessage(*missing);
                 return FormVerdict::StayOpen;
             }
@@ -171,8 +172,8 @@ void issueAccount(Session& session, IssueAccountQuestions& questions)
     const Numbering numbering = numberAccount(account, book, last, questions);
 
     const AccountPrintout printout{session.rates.accountNote.str(),
-                                   session.rates.standardExtraName.str(),
-                                   onOk.standardExtraAmount, onOk.insertNamesLine};
+                                   session.rates.standardExtraName.str(), onOk.standardExtraAmount,
+                                   onOk.insertNamesLine};
     if (!printAccountAndCopy(session, printout))
         return;
 

@@ -30,7 +30,8 @@ class PastAccountsQuestions : public FinderQuestions {
 public:
     // This Client's Accounts (DIALOG 25) listing `list`: the button pressed
     // with the line selected, nothing on Close.
-    virtual std::optional<PastAccountChoice> chooseInAccountList(const ClientAccountsList& list) = 0;
+    virtual std::optional<PastAccountChoice>
+    chooseInAccountList(const ClientAccountsList& list) = 0;
 
     // Account Summary (DIALOG 26) showing the lines, closed with Close.
     virtual void showAccountSummary(const std::vector<std::string>& lines) = 0;

@@ -101,7 +101,8 @@ bool reprintPastAccount(Session& session)
     const AccountPageValues values = accountPageValues(session, printout);
     fillClientAccount(session.printBuffer, values, session.draw);
     PrinterJobs jobs(session.ports.printer);
-    const bool printed = runPrintJob(jobs, "Past Account", session.printBuffer, session.printDialog);
+    const bool printed =
+        runPrintJob(jobs, "Past Account", session.printBuffer, session.printDialog);
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
     return printed;
 }

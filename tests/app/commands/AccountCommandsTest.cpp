@@ -23,7 +23,8 @@ using Typing = testing::ScriptedAccountQuestions::Typing;
 
 const std::string code = "SMITHANN";
 
-void pressOk(AccountPreparationForm&, AccountPreparation&) {}
+void pressOk(AccountPreparationForm&, AccountPreparation&)
+{}
 
 // The account commands on a fresh data folder: Mrs Ann Smith with three cats,
 // two of them booked in from 01/03/25 to 05/03/25, the last account issued
@@ -200,9 +201,9 @@ TEST_F(AccountCommandsTest, EachAnswerToASimilarAccountNumbersAndCountsAsItSays)
 
 TEST_F(AccountCommandsTest, PrintingThatDoesNotHappenAtEitherPageFilesNothing)
 {
-    for (const auto& outcomes : {std::deque<PrintOutcome>{PrintOutcome::Cancelled},
-                                 std::deque<PrintOutcome>{PrintOutcome::Printed,
-                                                          PrintOutcome::Failed}}) {
+    for (const auto& outcomes :
+         {std::deque<PrintOutcome>{PrintOutcome::Cancelled},
+          std::deque<PrintOutcome>{PrintOutcome::Printed, PrintOutcome::Failed}}) {
         fakes.printer.outcomes = outcomes;
         questions.similarAnswers = {SimilarAccountAnswer::GoBack};
         issue({pressOk});
@@ -253,8 +254,9 @@ TEST_F(AccountCommandsTest, OkChecksTheExtraTheNumberTheCatsAndTheDatesInTurn)
         pressOk, // the Long Stay Query answered "Wrong" above, "Right" now
     });
     EXPECT_EQ(fakes.ui.titles(), (Lines{"Data Omission", "Data Error", "Names no Ticked"}));
-    EXPECT_EQ(questions.asked, (Lines{"The date does not exist in that month ! / Arrival/Start date",
-                                      "More than 3 weeks?", "More than 3 weeks?"}));
+    EXPECT_EQ(questions.asked,
+              (Lines{"The date does not exist in that month ! / Arrival/Start date",
+                     "More than 3 weeks?", "More than 3 weeks?"}));
     EXPECT_EQ(questions.verdicts.back(), FormVerdict::Accept);
     EXPECT_EQ(questions.verdicts.size(), 6u);
 
