@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 namespace purrlodge {
 
@@ -22,6 +23,15 @@ void connectHelp(QDialog* dialog, QDialogButtonBox* buttons, const std::function
     QObject::connect(buttons, &QDialogButtonBox::helpRequested, dialog, showHelp);
     QObject::connect(new QShortcut(QKeySequence::HelpContents, dialog), &QShortcut::activated,
                      dialog, showHelp);
+}
+
+void layOutAboveButtons(QDialog* dialog, QWidget* content, QDialogButtonBox* buttons)
+{
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addWidget(content);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 } // namespace purrlodge

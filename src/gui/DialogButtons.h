@@ -18,4 +18,8 @@ QDialogButtonBox* newButtonBox(QDialog* dialog, QDialogButtonBox::StandardButton
 // becomes the default, so Return keeps its meaning after Help was clicked.
 void connectHelp(QDialog* dialog, QDialogButtonBox* buttons, const std::function<void()>& showHelp);
 
+// The layout of a small dialog: its content above its buttons, the dialog
+// fixed at the size they need.
+void layOutAboveButtons(QDialog* dialog, QWidget* content, QDialogButtonBox* buttons);
+
 } // namespace purrlodge

@@ -3,7 +3,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
@@ -33,11 +32,7 @@ TDlg17::TDlg17(const std::string& question, QWidget* parent) : QDialog(parent)
     // A stray Return goes back to the dates rather than printing the account.
     wrong->setDefault(true);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(text);
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layOutAboveButtons(this, text, buttons);
 }
 
 } // namespace purrlodge

@@ -3,7 +3,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
@@ -41,11 +40,7 @@ TDlg79::TDlg79(const std::string& question, QWidget* parent) : QDialog(parent)
         accept();
     });
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(text);
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layOutAboveButtons(this, text, buttons);
 }
 
 } // namespace purrlodge

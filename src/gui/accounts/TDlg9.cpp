@@ -2,7 +2,6 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
@@ -22,11 +21,7 @@ TDlg9::TDlg9(const std::string& text, QWidget* parent) : QDialog(parent)
 
     QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Close);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(calculation);
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layOutAboveButtons(this, calculation, buttons);
 }
 
 } // namespace purrlodge

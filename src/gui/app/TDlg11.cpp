@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "gui/DialogButtons.h"
 
@@ -26,11 +25,7 @@ TDlg11::TDlg11(QWidget* parent) : QDialog(parent)
     buttons->button(QDialogButtonBox::Yes)->setDefault(true);
     connectHelp(this, buttons, [this] { showHelp(); });
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(question);
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layOutAboveButtons(this, question, buttons);
 }
 
 void TDlg11::showHelp()

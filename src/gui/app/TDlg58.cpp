@@ -2,7 +2,6 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "gui/DialogButtons.h"
 #include "gui/Text1252.h"
@@ -23,11 +22,7 @@ TDlg58::TDlg58(const std::string& folder, QWidget* parent) : QDialog(parent)
 
     QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Ok);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(text);
-    layout->addSpacing(8);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layOutAboveButtons(this, text, buttons);
 }
 
 } // namespace purrlodge
