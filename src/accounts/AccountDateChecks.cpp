@@ -45,4 +45,16 @@ AccountDatesCheck checkAccountDates(std::string_view arrival, std::string_view d
     return {};
 }
 
+AccountDatesCheck checkStayDates(std::string& arrival, std::string& departure, int currentYear,
+                                 DateEntryState& state)
+{
+    if (countCheckAndNormalise(arrival, 2) != 0)
+        return apparentDateError(DateEntriesWrong, DateKind::ArrivalStart);
+    if (countCheckAndNormalise(departure, 2) != 0)
+        return apparentDateError(DateEntriesWrong, DateKind::DepartureEnd);
+    // The account note is OK's business: this check's own copy takes the note.
+    RatesRecord untouched{};
+    return checkAccountDates(arrival, departure, currentYear, state, {}, untouched);
+}
+
 } // namespace purrlodge

@@ -37,4 +37,13 @@ struct AccountDatesCheck {
 checkAccountDates(std::string_view arrival, std::string_view departure, int currentYear,
                   DateEntryState& state, std::string_view additionalNotes, RatesRecord& rates);
 
+// The dates of a stay as they are typed in (New Dates for Account, the
+// arrival form): each shortened to "dd/mm/yy" when it has exactly two "/"
+// (a four-digit year loses its century, as the count check does), else an
+// Apparent Date Error "You seem to have entered wrong dates"; then checked as
+// OK of Account Preparation checks them, a stay longer than three weeks
+// asking the Long Stay Query. The dates are left shortened.
+[[nodiscard]] AccountDatesCheck checkStayDates(std::string& arrival, std::string& departure,
+                                               int currentYear, DateEntryState& state);
+
 } // namespace purrlodge

@@ -15,12 +15,6 @@ bool anyCatTicked(const StayRecord& stay, const ClientRecord& client)
     return false;
 }
 
-// A date as DIALOG 47 takes it: a four-digit year shortened, then checked.
-int shortenYear(std::string& date)
-{
-    return countCheckAndNormalise(date, 2);
-}
-
 } // namespace
 
 AccountPreparationForm openAccountPreparation(const ClientRecord& client, const StayRecord& stay,
@@ -91,24 +85,9 @@ ChargeTexts AccountPreparation::recompute(const AccountPreparationForm& form)
 AccountDatesCheck AccountPreparation::alterDates(AccountPreparationForm& form, std::string arrival,
                                                  std::string departure)
 {
-    const auto wrongDates = [](DateKind kind) {
-        return AccountDatesCheck{AccountDatesVerdict::ApparentDateError, DateEntriesWrong,
-                                 std::string(dateErrorMessage(DateEntriesWrong)),
-                                 std::string(dateKindLabel(kind))};
-    };
-    if (shortenYear(arrival) != 0)
-        return wrongDates(DateKind::ArrivalStart);
-    if (shortenYear(departure) != 0)
-        return wrongDates(DateKind::DepartureEnd);
-
-    // The account note is only taken over by OK: the check's own copy of the
-    // rates keeps the note it had.
-    RatesRecord untouched = rates_;
-    AccountDatesCheck check = checkAccountDates(arrival, departure, currentYear_, dates_,
-                                                untouched.accountNote.str(), untouched);
+    const AccountDatesCheck check = checkStayDates(arrival, departure, currentYear_, dates_);
     if (check.verdict == AccountDatesVerdict::ApparentDateError)
         return check;
-
     form.arrival = arrival;
     form.departure = departure;
     (void)recompute(form);

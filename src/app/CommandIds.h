@@ -54,6 +54,9 @@ inline constexpr int clientUsage = 11874;
 // Print Jobs
 inline constexpr int printCurrentRates = 11879;
 inline constexpr int clientLists = 11878;
+// Print Jobs | Admission Register: a command of this program's own, so its id
+// lies past the others.
+inline constexpr int admissionRegister = 11890;
 
 // Help
 inline constexpr int setupHelp = 11845;

@@ -82,20 +82,10 @@ public:
 private:
     bool datesAccepted(const AccountPreparationForm& form)
     {
-        const AccountDatesCheck check =
-            checkAccountDates(form.arrival, form.departure, session_.currentYear, session_.dates,
-                              form.additionalNotes, session_.rates);
-        switch (check.verdict) {
-        case AccountDatesVerdict::GoOn:
-            return true;
-        case AccountDatesVerdict::ApparentDateError:
-            questions_.showApparentDateError(
-                {"Apparent Date Error", check.code, check.message, check.dateLabel});
-            return false;
-        case AccountDatesVerdict::AskLongStay:
-            return questions_.confirmLongStay(check.message);
-        }
-        return false;
+        return stayDatesAccepted(checkAccountDates(form.arrival, form.departure,
+                                                   session_.currentYear, session_.dates,
+                                                   form.additionalNotes, session_.rates),
+                                 questions_);
     }
 
     Session& session_;
@@ -138,6 +128,21 @@ Numbering numberAccount(AccountRecord& account, const AccountBook& book, std::in
 }
 
 } // namespace
+
+bool stayDatesAccepted(const AccountDatesCheck& check, StayDateQuestions& questions)
+{
+    switch (check.verdict) {
+    case AccountDatesVerdict::GoOn:
+        return true;
+    case AccountDatesVerdict::ApparentDateError:
+        questions.showApparentDateError(
+            {"Apparent Date Error", check.code, check.message, check.dateLabel});
+        return false;
+    case AccountDatesVerdict::AskLongStay:
+        return questions.confirmLongStay(check.message);
+    }
+    return false;
+}
 
 void issueAccount(Session& session, IssueAccountQuestions& questions)
 {

@@ -20,15 +20,10 @@ enum class SimilarAccountAnswer {
     GoBack,     // "Go Back": kept as "No", and the next account gets the same number
 };
 
-// The questions of Tasks | Issue Account.
-class IssueAccountQuestions : public FinderQuestions, public MemoReminderQuestions {
+// The questions the checks of a stay's dates ask.
+class StayDateQuestions {
 public:
-    // Account Preparation (DIALOG 8) filled from `initial`. Its buttons work
-    // the fee out through `preparation`; OK calls `onOk`, and the dialog stays
-    // open while it answers StayOpen. The closing verdict, nothing on Cancel.
-    virtual std::optional<FormVerdict>
-    fillAccountPreparation(const AccountPreparationForm& initial, AccountPreparation& preparation,
-                           const OkRule<AccountPreparationForm>& onOk) = 0;
+    virtual ~StayDateQuestions() = default;
 
     // Apparent Date Error (DIALOG 16), closed with Close.
     virtual void showApparentDateError(const DateWarning& warning) = 0;
@@ -36,6 +31,23 @@ public:
     // Long Stay Query (DIALOG 17) asking `question`: true for "Right", false
     // for "Wrong".
     virtual bool confirmLongStay(const std::string& question) = 0;
+};
+
+// Asks what the check found: an Apparent Date Error is shown, a long stay is
+// asked about. Whether the dates may stand.
+bool stayDatesAccepted(const AccountDatesCheck& check, StayDateQuestions& questions);
+
+// The questions of Tasks | Issue Account.
+class IssueAccountQuestions : public FinderQuestions,
+                              public MemoReminderQuestions,
+                              public StayDateQuestions {
+public:
+    // Account Preparation (DIALOG 8) filled from `initial`. Its buttons work
+    // the fee out through `preparation`; OK calls `onOk`, and the dialog stays
+    // open while it answers StayOpen. The closing verdict, nothing on Cancel.
+    virtual std::optional<FormVerdict>
+    fillAccountPreparation(const AccountPreparationForm& initial, AccountPreparation& preparation,
+                           const OkRule<AccountPreparationForm>& onOk) = 0;
 
     // "Complication!" (DIALOG 79) asking `question`.
     virtual SimilarAccountAnswer askSimilarAccount(const std::string& question) = 0;
