@@ -15,6 +15,8 @@
 #include "gui/clients/FinderDialogs.h"
 #include "gui/clients/TDlg16.h"
 #include "gui/clients/TDlg52.h"
+#include "gui/clients/TDlgArrivalSheet.h"
+#include "gui/clients/TDlgRegisterPeriod.h"
 
 namespace purrlodge {
 
@@ -110,6 +112,25 @@ void QtAccountQuestions::showNumberedAccounts(const std::vector<std::string>& li
 {
     TDlg60 dialog(lines, parent());
     dialog.exec();
+}
+
+std::optional<FormVerdict>
+QtAccountQuestions::fillArrivalForm(const ArrivalForm& initial, const RatesRecord& rates,
+                                    const OkRule<ArrivalForm>& onOk,
+                                    const std::function<void()>& printRegister)
+{
+    TDlgArrivalSheet dialog(initial, rates, onOk, printRegister, parent());
+    dialog.exec();
+    return dialog.verdict();
+}
+
+std::optional<FormVerdict>
+QtAccountQuestions::fillRegisterPeriod(const RegisterPeriod& initial,
+                                       const OkRule<RegisterPeriod>& onOk)
+{
+    TDlgRegisterPeriod dialog(initial, onOk, parent());
+    dialog.exec();
+    return dialog.verdict();
 }
 
 } // namespace purrlodge

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "app/commands/ArrivalSheet.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "clients/OtherCatsList.h"
@@ -14,8 +15,12 @@ namespace purrlodge {
 // The account commands' questions answered with their dialogs: the finder,
 // the memo reminder, Account Preparation with the questions its OK asks, the
 // similarity question, the client's account list and the numbered-account
-// search. Each dialog is modal over the window in front.
-class QtAccountQuestions : public IssueAccountQuestions, public PastAccountsQuestions {
+// search; and those of the arrival form and the admission register, which
+// share the finder, the memo reminder and the date questions. Each dialog is
+// modal over the window in front.
+class QtAccountQuestions : public IssueAccountQuestions,
+                           public PastAccountsQuestions,
+                           public ArrivalQuestions {
 public:
     // mainWindow: the owner of the dialogs when no other dialog is open.
     explicit QtAccountQuestions(QWidget* mainWindow) : mainWindow_(mainWindow) {}
@@ -37,6 +42,12 @@ public:
     bool confirmAccountDeletion(const std::string& question) override;
     std::optional<FormVerdict> askAccountNumber(const OkRule<std::string>& onOk) override;
     void showNumberedAccounts(const std::vector<std::string>& lines) override;
+
+    std::optional<FormVerdict> fillArrivalForm(const ArrivalForm& initial, const RatesRecord& rates,
+                                               const OkRule<ArrivalForm>& onOk,
+                                               const std::function<void()>& printRegister) override;
+    std::optional<FormVerdict> fillRegisterPeriod(const RegisterPeriod& initial,
+                                                  const OkRule<RegisterPeriod>& onOk) override;
 
     // The current client's note book, for the Special Notes button of Account
     // Preparation; without it the button is greyed.
