@@ -94,6 +94,7 @@ std::vector<MenuEntry> mainMenuLayout()
                   item(printCurrentRates, "Print Current rates", "printCurrentRatesAction"),
                   separator(),
                   item(clientLists, "Client Lists", "clientListsAction"),
+                  item(admissionRegister, "Admission Register", "admissionRegisterAction"),
               }),
         popup(
             "&Help", "helpMenu",

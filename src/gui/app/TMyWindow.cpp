@@ -12,6 +12,7 @@
 #include "accounts/ExchangeRateSetup.h"
 #include "app/CommandIds.h"
 #include "app/Session.h"
+#include "app/commands/ArrivalSheet.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "app/commands/Printing.h"
@@ -170,6 +171,8 @@ void TMyWindow::buildCommandTable()
                [this] { editClientDetails(session_, clientQuestions_); });
     setCommand(command::newClient, [this] { newClient(session_, clientQuestions_); });
     setCommand(command::globalSearch, [this] { globalSearch(session_, clientQuestions_); });
+    setCommand(command::makeArrivalSheet,
+               [this] { makeArrivalSheet(session_, accountQuestions_); });
     setCommand(command::issueAccount, [this] { issueAccount(session_, accountQuestions_); });
     accountQuestions_.setSpecialNotesSource([this] {
         return otherCatsListing(session_.folder, session_.clientCode, session_.client,
@@ -184,6 +187,10 @@ void TMyWindow::buildCommandTable()
     // Good-Housekeeping
     setCommand(command::remindMe, [this] { toggleBackupReminder(session_); });
     setChecker(command::remindMe, [&session] { return session.shell.backupReminder; });
+
+    // Print Jobs
+    setCommand(command::admissionRegister,
+               [this] { printAdmissionRegister(session_, accountQuestions_); });
 
     // Help
     setEnabler(command::seePictureNotes, [&session] { return session.shell.pictureHasNotes(); });
