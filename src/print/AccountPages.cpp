@@ -353,19 +353,15 @@ AccountPairOutcome printAccountPair(const AccountPageValues& values, PrintBuffer
                                     RandomDraw& draw, PrintDialogState& dialog,
                                     PrintJobRunner& runner)
 {
-    const bool accountWanted = values.account.omitTopSheet.get() == 0;
-    if (accountWanted) {
+    CommandJobs jobs(runner, dialog);
+    if (values.account.omitTopSheet.get() == 0) {
         fillClientAccount(buffer, values, draw);
-        if (!runPrintJob(runner, "Client's Account", buffer, dialog))
+        if (!jobs.run("Client's Account", buffer))
             return AccountPairOutcome::AccountNotPrinted;
     }
     if (values.account.omitCopy.get() == 0) {
         fillAccountCopy(buffer, values);
-        // One command shows the print dialog at most once.
-        const bool prompt = !accountWanted && promptFor(dialog);
-        const bool printed = runner.run("Account Copy", prompt, buffer);
-        afterPrint(dialog);
-        if (!printed)
+        if (!jobs.run("Account Copy", buffer))
             return AccountPairOutcome::CopyNotPrinted;
     }
     return AccountPairOutcome::Printed;

@@ -28,7 +28,38 @@ std::int64_t centredX(int horizontalDpi, int width)
     return static_cast<std::int64_t>(std::trunc(4.0 * horizontalDpi - width / 2));
 }
 
+// A page that only notes how low its lines reach. The cell heights are those
+// the engine asks for; widths do not matter to the depth.
+class DepthGauge : public Canvas {
+public:
+    static constexpr int dpi = 600;
+
+    [[nodiscard]] int horizontalResolution() const override { return dpi; }
+    [[nodiscard]] int verticalResolution() const override { return dpi; }
+    void selectFont(const CanvasFont& font) override { cellHeight_ = font.cellHeight; }
+    [[nodiscard]] int cellHeight() const override { return cellHeight_; }
+    [[nodiscard]] int textWidth(std::string_view) const override { return 0; }
+    void drawText(int, int y, std::string_view, Rgb) override
+    {
+        bottom_ = std::max<std::int64_t>(bottom_, std::int64_t{y} + cellHeight_);
+    }
+
+    [[nodiscard]] double bottomInInches() const { return static_cast<double>(bottom_) / dpi; }
+
+private:
+    int cellHeight_ = 0;
+    std::int64_t bottom_ = 0;
+};
+
 } // namespace
+
+double printedDepth(const PrintBuffer& buffer)
+{
+    PrintBuffer copy = buffer; // rendering shortens the format lines
+    DepthGauge gauge;
+    renderPage(copy, gauge);
+    return gauge.bottomInInches();
+}
 
 void renderPage(PrintBuffer& buffer, Canvas& canvas)
 {

@@ -12,4 +12,9 @@ struct PrintBuffer;
 // previous line top to the top of the last line drawn.
 void renderPage(PrintBuffer& buffer, Canvas& canvas);
 
+// How far down the page the buffer's lines reach, in inches: the bottom of the
+// lowest line as renderPage draws it. Lets a page routine check that what it
+// filled fits the paper; the buffer is left as it is.
+[[nodiscard]] double printedDepth(const PrintBuffer& buffer);
+
 } // namespace purrlodge

@@ -12,4 +12,13 @@ bool runPrintJob(PrintJobRunner& runner, const std::string& title, PrintBuffer& 
     return printed;
 }
 
+bool CommandJobs::run(const std::string& title, PrintBuffer& buffer)
+{
+    const bool prompt = first_ && promptFor(dialog_);
+    first_ = false;
+    const bool printed = runner_.run(title, prompt, buffer);
+    afterPrint(dialog_);
+    return printed;
+}
+
 } // namespace purrlodge

@@ -24,4 +24,23 @@ public:
 bool runPrintJob(PrintJobRunner& runner, const std::string& title, PrintBuffer& buffer,
                  PrintDialogState& dialog);
 
+// The jobs of one command that prints several pages (the account and its
+// copy, the arrival sheets, the pages of a register): the print dialog shows,
+// by the mode in force, on the first job only, and the after-print rule
+// follows each job.
+class CommandJobs {
+public:
+    CommandJobs(PrintJobRunner& runner, PrintDialogState& dialog)
+        : runner_(runner), dialog_(dialog)
+    {}
+
+    // Whether the page printed.
+    bool run(const std::string& title, PrintBuffer& buffer);
+
+private:
+    PrintJobRunner& runner_;
+    PrintDialogState& dialog_;
+    bool first_ = true;
+};
+
 } // namespace purrlodge

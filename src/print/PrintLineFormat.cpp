@@ -31,7 +31,7 @@ constexpr std::array<std::uint8_t, 10> colourLevels = {0, 28, 56, 84, 113, 141, 
 constexpr std::array<std::string_view, 11> colourSchemes = {
     "009", "500", "090", "050", "900", "909", "055", "550", "990", "000", "000"};
 
-constexpr int randomScheme = 10;
+constexpr int randomScheme = colourSchemeCount;
 constexpr int fieldCount = 7;
 constexpr int colourField = 5;
 
@@ -55,11 +55,16 @@ Rgb colourFrom(std::string_view field)
 
 } // namespace
 
+std::string_view schemeColourField(int colourIndex)
+{
+    return colourIndex >= 0 && colourIndex < colourSchemeCount
+               ? colourSchemes[static_cast<std::size_t>(colourIndex)]
+               : colourSchemes[randomScheme];
+}
+
 Rgb schemeColour(int colourIndex)
 {
-    return colourIndex >= 0 && colourIndex < randomScheme
-               ? colourFrom(colourSchemes[static_cast<std::size_t>(colourIndex)])
-               : Rgb{};
+    return colourFrom(schemeColourField(colourIndex));
 }
 
 std::string withoutLastField(std::string_view format)
@@ -111,9 +116,7 @@ std::string recolourFormat(std::string_view format, int colourIndex, RandomDraw&
     if (colourIndex == randomScheme)
         colourIndex = draw.upTo(9);
     // An index from outside the table (a damaged settings block) prints black.
-    const std::string_view scheme = colourIndex >= 0 && colourIndex < randomScheme
-                                        ? colourSchemes[static_cast<std::size_t>(colourIndex)]
-                                        : colourSchemes[randomScheme];
+    const std::string_view scheme = schemeColourField(colourIndex);
 
     // Seven fields; a short line has empty ones at its end and the seventh
     // keeps whatever follows the sixth comma.

@@ -43,6 +43,14 @@ struct ParsedPrintLine {
 // dpi / divisor).
 [[nodiscard]] int printCellHeight(int verticalDpi, int sizeIndex);
 
+// The colour schemes a name can be printed in are indexed 0..9; an index
+// of 10 draws one of them at random.
+inline constexpr int colourSchemeCount = 10;
+
+// The colour field of a scheme index 0..9, "009" for 0 to "000" for 9;
+// "000" for any other index.
+[[nodiscard]] std::string_view schemeColourField(int colourIndex);
+
 // The colour a scheme index 0..9 prints in; black for any other index.
 [[nodiscard]] Rgb schemeColour(int colourIndex);
 

@@ -1,8 +1,8 @@
 // Bytes as a stay record ("<code>.TXI", 1049 bytes), then the rates
 // (NRATES.RTS, 473 bytes), then the exchange rate (EURORATE.XCH, 8 bytes):
 // the readers, the fee the account preparation works out from the stay's
-// dates and texts, its texts, the standard extra's controls and the account
-// date checks.
+// dates and texts, its texts, the standard extra's controls, the account
+// date checks, and the arrival form over the stay.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +12,7 @@
 #include "accounts/CatteryFiles.h"
 #include "accounts/FeeCalculation.h"
 #include "accounts/StandardExtra.h"
+#include "clients/ArrivalForm.h"
 #include "fuzz/FuzzSupport.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
@@ -90,5 +91,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (int pass = 0; pass < 2; ++pass)
         static_cast<void>(checkAccountDates(entries.arrival, entries.departure, 2024, state,
                                             stay.dialogText.str(), rates));
+
+    // The arrival form over the stay, and the stay record it comes back to.
+    ClientRecord client{};
+    client.catName[0].set("Tibbles");
+    client.catName[2].set("Felix");
+    client.catBirthYear[2].set(stay.number.get());
+    EstablishmentRecord establishment{};
+    establishment.vaccinationYears.set(stay.arrivalRemark.str());
+    ArrivalForm form = openArrivalForm(client, stay, establishment, rates, clock,
+                                       sheetsFromSetting(stay.departureRemark.str()));
+    form.arrival = stay.arrivalDate.str();
+    form.departure = stay.departureDate.str();
+    static_cast<void>(stayLengthText(form.arrival, form.departure, rates));
+    static_cast<void>(stayRecordOf(form, client, rates, stay, clock));
     return 0;
 }

@@ -118,6 +118,15 @@ TEST_F(PageLayoutTest, BlankPagesAndTheLastTopOfThePreviousPage)
     EXPECT_EQ(render({{"same line", "3, 0, -1, 1, n, 000, A"}})[0].y, 900);
 }
 
+TEST_F(PageLayoutTest, DepthIsTheLowestBottomAndLeavesTheBufferAsItWas)
+{
+    buffer.clear();
+    buffer.add("tall", "0, 0, 600, 1, n, 000, A");  // 1 to 1.5 inches
+    buffer.add("beside", "5, 8, -1, 3, n, 000, A"); // shares its top, ends higher
+    EXPECT_DOUBLE_EQ(printedDepth(buffer), 1.5);
+    EXPECT_EQ(buffer.formats[0], "0, 0, 600, 1, n, 000, A");
+}
+
 TEST_F(PageLayoutTest, HugeNumbersStayInRange)
 {
     const auto& drawn = render({{"far", "3, 2000000000, 2000000000, 1, n, 000, A"},

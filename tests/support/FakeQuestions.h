@@ -8,6 +8,7 @@
 
 #include "app/StartupSequence.h"
 #include "app/commands/CatterySetup.h"
+#include "app/commands/ArrivalSheet.h"
 #include "app/commands/ChangeDataSet.h"
 #include "app/commands/ClientEntry.h"
 #include "app/commands/ClientLookup.h"
@@ -199,8 +200,9 @@ struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
     std::vector<std::size_t> detailsOfLines; // lines whose "Show Details" is pressed
 };
 
-// The account commands' questions answered from scripts; records what was asked.
-struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions {
+// The account and arrival commands' questions answered from scripts; records
+// what was asked.
+struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, ArrivalQuestions {
     using Typing = std::function<void(AccountPreparationForm&, AccountPreparation&)>;
 
     std::optional<FinderEntry> askClientName(const FinderOptions&, const FinderEntry&) override
@@ -268,9 +270,39 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions {
         found.push_back(lines);
     }
 
+    // The arrival form: each entry changes the entries as they stand and
+    // presses OK; `pressRegister` presses "Admission Register" first.
+    std::optional<FormVerdict> fillArrivalForm(const ArrivalForm& initial, const RatesRecord&,
+                                               const OkRule<ArrivalForm>& onOk,
+                                               const std::function<void()>& printRegister) override
+    {
+        arrivalOpened.push_back(initial);
+        if (pressRegister)
+            printRegister();
+        ArrivalForm form = initial;
+        while (!arrivalTyping.empty()) {
+            next(arrivalTyping)(form);
+            verdicts.push_back(onOk(form));
+            if (verdicts.back() != FormVerdict::StayOpen)
+                return verdicts.back();
+        }
+        return std::nullopt;
+    }
+    std::optional<FormVerdict> fillRegisterPeriod(const RegisterPeriod& initial,
+                                                  const OkRule<RegisterPeriod>& onOk) override
+    {
+        periodsShown.push_back(initial.from + "-" + initial.to);
+        return period.run(initial, onOk);
+    }
+
     std::deque<std::optional<FinderEntry>> names;
     std::deque<std::optional<int>> matches;
     bool deleteMemo = false;
+    std::deque<std::function<void(ArrivalForm&)>> arrivalTyping;
+    std::vector<ArrivalForm> arrivalOpened;
+    bool pressRegister = false;
+    std::vector<std::string> periodsShown;
+    ScriptedForm<RegisterPeriod> period;
     std::deque<Typing> typing;
     std::vector<AccountPreparationForm> opened;
     std::vector<FormVerdict> verdicts;

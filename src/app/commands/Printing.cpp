@@ -3,6 +3,8 @@
 #include "accounts/FeeCalculation.h"
 #include "app/Session.h"
 #include "print/AccountPages.h"
+#include "print/AdmissionRegisterPages.h"
+#include "print/ArrivalSheets.h"
 #include "print/ClientDetailsPage.h"
 #include "print/PrinterJobs.h"
 
@@ -103,6 +105,54 @@ bool reprintPastAccount(Session& session)
     PrinterJobs jobs(session.ports.printer);
     const bool printed =
         runPrintJob(jobs, "Past Account", session.printBuffer, session.printDialog);
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+    return printed;
+}
+
+bool printArrivalSheets(Session& session, const std::array<bool, arrivalSheetCount>& sheets)
+{
+    const ColourPrintingForm colours =
+        colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile);
+    ArrivalSheetValues values{session.establishment, session.client, session.stay,
+                              session.ports.clock};
+    values.perDay = chargesPerDay(session.rates);
+    values.standardExtraName = session.rates.standardExtraName.str();
+    values.nameColourIndex = colours.nameColour;
+    const auto inColour = [&colours](ColourItem item) {
+        return colours.inColour[static_cast<std::size_t>(item)];
+    };
+
+    PrinterJobs printer(session.ports.printer);
+    CommandJobs jobs(printer, session.printDialog);
+    bool printed = true;
+    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::PenCard)]) {
+        values.inColour = inColour(ColourItem::ArrivalSheet1);
+        fillArrivalSheet1(session.printBuffer, values, session.draw);
+        printed = jobs.run("Arrival Sheet-1", session.printBuffer);
+    }
+    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::OwnersCopy)]) {
+        values.inColour = inColour(ColourItem::ArrivalSheet2);
+        fillArrivalSheet2(session.printBuffer, values, session.draw);
+        printed = jobs.run("Arrival Sheet-2", session.printBuffer);
+    }
+    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::ReturnSheet)]) {
+        values.inColour = inColour(ColourItem::ReturnSheet);
+        fillReturnSheet(session.printBuffer, values, session.shell.switches.testPrintout);
+        printed = jobs.run("Return Shee (3)", session.printBuffer);
+    }
+    tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
+    return printed;
+}
+
+bool printAdmissionRegisterPages(Session& session, const AdmissionRegisterPages& pages)
+{
+    PrinterJobs printer(session.ports.printer);
+    CommandJobs jobs(printer, session.printDialog);
+    bool printed = true;
+    for (int page = 0; printed && page < pages.pageCount(); ++page) {
+        pages.fillPage(session.printBuffer, page);
+        printed = jobs.run("Admission Register", session.printBuffer);
+    }
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
     return printed;
 }

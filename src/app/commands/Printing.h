@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "clients/ArrivalForm.h"
 #include "clients/ClientDetails.h"
 #include "ports/FormVerdict.h"
 #include "print/PrintOptions.h"
@@ -65,5 +66,17 @@ bool printAccountAndCopy(Session& session, const AccountPrintout& printout);
 // client's account page alone, with the account note and the standard extra
 // as they are now set. Whether it printed.
 bool reprintPastAccount(Session& session);
+
+// Prints the sheets chosen for the session's client and stay, in their order,
+// with the print dialog at most once; a sheet that does not print stops the
+// ones after it. Whether every sheet chosen printed.
+bool printArrivalSheets(Session& session, const std::array<bool, arrivalSheetCount>& sheets);
+
+class AdmissionRegisterPages;
+
+// Prints every page of the register, each as its job "Admission Register",
+// with the print dialog at most once; a page that does not print stops the
+// rest. Whether every page printed.
+bool printAdmissionRegisterPages(Session& session, const AdmissionRegisterPages& pages);
 
 } // namespace purrlodge

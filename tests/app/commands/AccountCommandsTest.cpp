@@ -3,12 +3,16 @@
 
 #include "accounts/AccountFiling.h"
 #include "app/Session.h"
+#include "app/commands/ArrivalSheet.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "clients/AutoMemo.h"
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
 #include "store/SafeFile.h"
+#include "housekeeping/AdmissionRegister.h"
+#include "print/PrintBuffer.h"
+#include "support/DataSetGenerator.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
@@ -334,6 +338,119 @@ TEST_F(AccountCommandsTest, ANumberIsFoundInEveryBookAfterItsEntryIsChecked)
     questions.accountNumber.entries = {"999"};
     findNumberedAccount(session, questions);
     EXPECT_EQ(questions.found.back().back(), "   No account was found numbered 999");
+}
+
+TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount)
+{
+    AutoMemo memo{};
+    memo.text.set("Felix needs his drops");
+    ASSERT_TRUE(session.folder.write(code + ".ANT", memo));
+    session.printDialog.modeInForce = printDialogEveryTime;
+    fakes.profile.values["arrsheets"] = "123";
+    questions.names = {FinderEntry{"Smith"}};
+    questions.matches = {0};
+    questions.longStayRight = {false};
+    const auto dates = [](std::string arrival, std::string departure) {
+        return [=](ArrivalForm& form) {
+            form.arrival = arrival;
+            form.departure = departure;
+        };
+    };
+    questions.arrivalTyping = {
+        dates("1/4", "05/04/25"),
+        dates("31/04/25", "05/04/25"),
+        dates("06/04/25", "05/04/25"),
+        dates("01/04/25", "30/04/25"), // "Wrong"
+        [](ArrivalForm& form) {
+            form.departure = "05/04/2025";
+            form.cats[0].ticked = form.cats[1].ticked = form.cats[2].ticked = false;
+        },
+        [](ArrivalForm& form) {
+            form.cats[0].ticked = form.cats[2].ticked = true;
+            form.emergencyContact = "Jo 07700 900123";
+            form.sheets = {false, true, true};
+        },
+    };
+    makeArrivalSheet(session, questions);
+
+    EXPECT_EQ(questions.asked,
+              (Lines{"An Auto Memo exists for Ann Smith: Felix needs his drops",
+                     "You seem to have entered wrong dates\nPlease check and try again / "
+                     "Arrival/Start date",
+                     "The date does not exist in that month ! / Arrival/Start date",
+                     "Departing/Starting before arrival! / Departure/End date",
+                     "More than 3 weeks?"}));
+    EXPECT_EQ(fakes.ui.titles(), Lines{"Names no Ticked"});
+    EXPECT_TRUE(questions.arrivalOpened.at(0).arrival.empty()) << "the last stay is over";
+    EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Arrival Sheet-2", true}, {"Return Shee (3)", false}}));
+    EXPECT_EQ(fakes.profile.read(arrivalSheetsKey), "23");
+    StayRecord stay{};
+    readStayRecord(session.folder, code, stay);
+    EXPECT_EQ(stay.departureDate.str(), "05/04/25") << "the four-digit year shortened";
+    EXPECT_EQ(emergencyContactOf(stay), "Jo 07700 900123");
+
+    // Issue Account finds the dates and the cats.
+    questions.asked.clear();
+    issue({pressOk});
+    const AccountPreparationForm& account = questions.opened.at(0);
+    EXPECT_EQ(account.arrival + "-" + account.departure, "01/04/25-05/04/25");
+    EXPECT_TRUE(account.cats[0].ticked && !account.cats[1].ticked && account.cats[2].ticked);
+}
+
+TEST_F(AccountCommandsTest, TheArrivalSheetsAskForThePrinterOnceAndStopWhenOneDoesNotPrint)
+{
+    session.printDialog.modeInForce = printDialogEveryTime;
+    fakes.printer.outcomes = {PrintOutcome::Printed, PrintOutcome::Cancelled};
+    questions.names = {FinderEntry{"Smith"}};
+    questions.matches = {0};
+    questions.arrivalTyping = {[](ArrivalForm& form) {
+        form.arrival = "01/04/25";
+        form.departure = "05/04/25";
+    }};
+    makeArrivalSheet(session, questions);
+    EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Arrival Sheet-1", true}, {"Arrival Sheet-2", false}}));
+}
+
+TEST_F(AccountCommandsTest, TheRegisterListsEachStayOfThePeriodOnceOverItsPages)
+{
+    fileAccount(1001, "02/03/25", "04/03/25"); // in March, not booked
+    fileAccount(1002, "01/02/25", "03/02/25"); // in February
+    StayRecord stay{};
+    readStayRecord(session.folder, code, stay);
+    stay.furtherLines[0].set("Jo 07700 900123");
+    ASSERT_TRUE(writeStayRecord(session.folder, code, stay));
+    fileAccount(1003, "01/03/25", "05/03/25"); // the booked stay, accounted for
+
+    const std::vector<AdmissionEntry> march = collectAdmissions(
+        session.folder, session.index, dateToNumber("01/03/25"), dateToNumber("31/03/25"),
+        fakes.clock);
+    ASSERT_EQ(march.size(), 2u);
+    EXPECT_EQ(march[0].arrival + " " + march[0].emergencyContact, "01/03/25 Jo 07700 900123");
+    EXPECT_EQ(march[0].cats, (Lines{"Tibbles  (?, age ?)", "Felix  (?, age ?)"}));
+    EXPECT_EQ(march[1].arrival, "02/03/25");
+    EXPECT_EQ(march[1].owner, "Mrs Ann Smith");
+
+    questions.period.entries = {{"01/03/25", "31/02/25"}, {"01/03/25", "31/03/25"}};
+    printAdmissionRegister(session, questions);
+    EXPECT_EQ(questions.periodsShown, Lines{"01/03/25-31/03/25"}) << "this month";
+    EXPECT_EQ(questions.asked,
+              Lines{"The date does not exist in that month ! / Departure/End date"});
+    EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Admission Register", false}}));
+}
+
+TEST_F(AccountCommandsTest, AFullDataSetsRegisterRunsOverPagesThatEachFitTheBuffer)
+{
+    const ClientIndex index = testing::generateDataSet(session.folder, maxClients, 3);
+    const std::vector<AdmissionEntry> entries = collectAdmissions(
+        session.folder, index, dateToNumber("01/01/24"), dateToNumber("31/12/24"), fakes.clock);
+    EXPECT_EQ(entries.size(), std::size_t{maxClients} * accountBookSlots);
+    const AdmissionRegisterPages pages("Whiskers Lodge", "2024", entries);
+    ASSERT_GT(pages.pageCount(), 1);
+    PrintBuffer buffer;
+    for (int page = 0; page < pages.pageCount(); ++page) {
+        pages.fillPage(buffer, page);
+        EXPECT_LE(buffer.count, printSlotCount);
+    }
 }
 
 } // namespace
