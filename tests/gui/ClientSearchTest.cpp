@@ -127,7 +127,6 @@ private slots:
         });
         shell.trigger(command::seeClientDetails);
         shell.trigger(command::seeClientDetails);
-        QCOMPARE(shell.session.client.code.str(), code);
         shell.trigger(command::editClientDetails);
 
         QCOMPARE(answers.seen(),
