@@ -16,6 +16,7 @@
 namespace purrlodge {
 namespace {
 
+using enum FormVerdict;
 using testing::bytesOf;
 
 // The rules behind OK of the Setup menu's dialogs (13, 14, 77, 23 and 15).
@@ -63,7 +64,7 @@ TEST_F(CatterySetupTest, FormsStartFromTheFileAndReadTheirEntriesCutShort)
     rates.presentRate[0].set(99.0f);
     ASSERT_EQ(acceptStandardExtraForm({"Grooming and a good brush", "4.2500000000000000000009"},
                                       rates, folder),
-              FormVerdict::Accept);
+              Accept);
     EXPECT_EQ(testing::fileBytes(temp.root() / ratesFile), bytesOf(rates));
     EXPECT_EQ(rates.standardExtraName.str(), "Grooming and a good bru");
     EXPECT_EQ(rates.presentRate[0].get(), 10.0f);
@@ -73,8 +74,7 @@ TEST_F(CatterySetupTest, FormsStartFromTheFileAndReadTheirEntriesCutShort)
     exchangeRate.pencePerEuro.set(62.5f);
     EXPECT_EQ(exchangeRateFormFrom(exchangeRate).pencePerEuro, "62.50");
     // The exponent is cut off.
-    ASSERT_EQ(acceptExchangeRateForm({"12345678901e-5", true}, exchangeRate, folder),
-              FormVerdict::Accept);
+    ASSERT_EQ(acceptExchangeRateForm({"12345678901e-5", true}, exchangeRate, folder), Accept);
     EXPECT_EQ(testing::fileBytes(temp.root() / exchangeRateFile), bytesOf(exchangeRate));
     EXPECT_EQ(exchangeRate.pencePerEuro.get(), 12345678901.0f);
     EXPECT_EQ(exchangeRate.showEuros.get(), 1u);
@@ -83,10 +83,10 @@ TEST_F(CatterySetupTest, FormsStartFromTheFileAndReadTheirEntriesCutShort)
     // The receipt number typed is the next account's number.
     ClientIndex index{};
     EXPECT_EQ(receiptNumberOffer(index), "1000");
-    ASSERT_EQ(acceptReceiptNumber("1000", index, folder), FormVerdict::Accept);
+    ASSERT_EQ(acceptReceiptNumber("1000", index, folder), Accept);
     EXPECT_EQ(testing::fileBytes(temp.root() / currentIndexFile), bytesOf(index));
     EXPECT_EQ(index.lastAccountNumber.get(), 999);
-    ASSERT_EQ(acceptReceiptNumber("12345678", index, folder), FormVerdict::Accept);
+    ASSERT_EQ(acceptReceiptNumber("12345678", index, folder), Accept);
     EXPECT_EQ(receiptNumberOffer(index), "1234567");
 }
 
@@ -98,7 +98,7 @@ TEST_F(CatterySetupTest, RatesReadSevenCharactersAndYesMovesThePresentOnesToPrev
         RatesForm form = ratesFormFrom(rates, clock);
         form.presentRate = {"8.5", "", "abc", "12.3456789", "14", "16"};
         form.updatePreviousRates = yes;
-        ASSERT_EQ(acceptRatesForm(form, rates, folder, clock), FormVerdict::Accept);
+        ASSERT_EQ(acceptRatesForm(form, rates, folder, clock), Accept);
         EXPECT_EQ(testing::fileBytes(temp.root() / ratesFile), bytesOf(rates));
         EXPECT_EQ(rates.presentRate[2].get(), 0.0f);     // "abc", as an empty field
         EXPECT_EQ(rates.presentRate[3].get(), 12.3456f); // seven characters read
@@ -111,7 +111,7 @@ TEST_F(CatterySetupTest, RatesReadSevenCharactersAndYesMovesThePresentOnesToPrev
         form.presentRate = {"11", "12", "13", "14", "15", "16"};
         form.updatePreviousRates = form.perDay = yes;
         form.currency = yes ? std::optional<std::uint32_t>(1) : std::nullopt;
-        ASSERT_EQ(acceptRatesForm(form, rates, folder, clock), FormVerdict::Accept);
+        ASSERT_EQ(acceptRatesForm(form, rates, folder, clock), Accept);
         EXPECT_EQ(rates.previousRate[5].get(), yes ? 15.0f : 14.0f);
         EXPECT_EQ(rates.rateChangeTime.get(), yes ? clock.now() : 1240477500);
         EXPECT_EQ(rates.currency.get(), yes ? 1u : 2u);
@@ -140,14 +140,14 @@ TEST_F(CatterySetupTest, CatteryDetailsChecksComeInOrderThenTheRecordIsCompleted
         entries.*entry = text;
         ui.messages.clear();
         EXPECT_EQ(acceptEstablishmentForm(entries, establishment, folder, ui),
-                  entry == size ? FormVerdict::StayOpen : FormVerdict::EndProgram);
+                  entry == size ? StayOpen : EndProgram);
         EXPECT_EQ(ui.messages, std::vector<Message>{entry == size ? textSizeError : entryVoid})
             << text;
     }
     EXPECT_EQ(bytesOf(establishment), bytesOf(EstablishmentRecord{}));
     EXPECT_FALSE(folder.exists(establishmentFile));
 
-    ASSERT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), FormVerdict::Accept);
+    ASSERT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), Accept);
     EXPECT_EQ(testing::fileBytes(temp.root() / establishmentFile), bytesOf(establishment));
     EXPECT_EQ(establishment.managerTypeSize.str() + establishment.displayFlags.str() +
                   establishment.chequesColour.str(),
@@ -162,7 +162,7 @@ TEST_F(CatterySetupTest, CatteryDetailsChecksComeInOrderThenTheRecordIsCompleted
 
     details.onArrivalSheet = details.inRed = false;
     details.typeSize = "5";
-    ASSERT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), FormVerdict::Accept);
+    ASSERT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), Accept);
     EXPECT_EQ(establishment.displayFlags.str() + establishment.chequesColour.str(), "A5**BLACK**");
 }
 
@@ -172,23 +172,22 @@ TEST_F(CatterySetupTest, AFailedSaveKeepsTheDialogOpenAndChangesNothingInMemory)
 {
     for (const auto file : {ratesFile, exchangeRateFile, establishmentFile, currentIndexFile})
         std::filesystem::create_directory(temp.root() / file);
-    const auto stayOpen = FormVerdict::StayOpen;
 
     rates = established;
-    EXPECT_EQ(acceptRatesForm(ratesFormFrom(RatesRecord{}, clock), rates, folder, clock), stayOpen);
-    EXPECT_EQ(acceptStandardExtraForm({"Bath", "3"}, rates, folder), stayOpen);
+    EXPECT_EQ(acceptRatesForm(ratesFormFrom(RatesRecord{}, clock), rates, folder, clock), StayOpen);
+    EXPECT_EQ(acceptStandardExtraForm({"Bath", "3"}, rates, folder), StayOpen);
     (void)openRatesForm(rates, folder, clock);
     EXPECT_EQ(bytesOf(rates), bytesOf(established));
 
     ExchangeRateRecord exchangeRate{};
-    EXPECT_EQ(acceptExchangeRateForm({"70", true}, exchangeRate, folder), stayOpen);
+    EXPECT_EQ(acceptExchangeRateForm({"70", true}, exchangeRate, folder), StayOpen);
     EXPECT_EQ(bytesOf(exchangeRate), bytesOf(ExchangeRateRecord{}));
 
     ClientIndex index{};
-    EXPECT_EQ(acceptReceiptNumber("2000", index, folder), stayOpen);
+    EXPECT_EQ(acceptReceiptNumber("2000", index, folder), StayOpen);
     EXPECT_EQ(index.lastAccountNumber.get(), 0);
 
-    EXPECT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), stayOpen);
+    EXPECT_EQ(acceptEstablishmentForm(details, establishment, folder, ui), StayOpen);
     EXPECT_EQ(bytesOf(establishment), bytesOf(EstablishmentRecord{}));
     EXPECT_EQ(ui.titles(), std::vector<std::string>(5, "File Error"));
 }

@@ -4,10 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "accounts/CatteryFiles.h"
-#include "app/BackupAlert.h"
-#include "app/PictureRotation.h"
 #include "app/Session.h"
 #include "store/ClientFiles.h"
+#include "store/IndexOperations.h"
 #include "support/Bytes.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
@@ -32,12 +31,9 @@ protected:
         fake.profile.values["lastbkdate"] = std::to_string(fake.clock.nowSeconds - 86400);
         ClientIndex index{};
         index.formatStamp.set(stamp);
-        index.count.set(2);
         index.backupReminderMode.set(7);
-        index.entries[1].key.set("Smith");
-        index.entries[1].code.set("SmithAnn");
-        index.entries[2].key.set("Adams");
-        index.entries[2].code.set("AdamsBob");
+        appendEntry(index, "Smith", "SmithAnn");
+        appendEntry(index, "Adams", "AdamsBob");
         ASSERT_TRUE(writeIndex(files, index));
         EstablishmentRecord establishment{};
         establishment.name.set("Whiskers Lodge");
@@ -161,11 +157,6 @@ TEST_F(StartupSequenceTest, BackupAlertComesAfterThirtyDaysAndOneSecondWhenTheRe
         EXPECT_EQ(session.shell.backupReminder, c.remStatus.empty() || c.remStatus == "1");
     }
     EXPECT_EQ(fake.ui.messages.at(0).text, "You have never backedup your precious Purrlodge Data");
-
-    testing::FakeClock clock;
-    clock.setUtc(2009, 4, 23, 9, 5);
-    EXPECT_EQ(backupAlertFor(clock.nowSeconds, true, clock.nowSeconds + 40 * 86400, clock)->text,
-              "You have not backed up your Purrlodge Data since\n 09:05 on 23/04/09");
 }
 
 TEST_F(StartupSequenceTest, AFullStartLoadsTheDataSetSortsTheIndexAndReadsTheToggles)
@@ -181,7 +172,7 @@ TEST_F(StartupSequenceTest, AFullStartLoadsTheDataSetSortsTheIndexAndReadsTheTog
     EXPECT_EQ(onDisk.entries[1].key.str(), "Adams");
     EXPECT_EQ(session.shell.backupReminderMode, 7);
     EXPECT_EQ(session.shell.managerTypeSize, 3);
-    EXPECT_EQ(session.shell.pictureTable[2], (std::pair{30, 65}));
+    EXPECT_EQ(session.shell.pictureTable, picturePlacements);
     EXPECT_FALSE(session.shell.ratesUsable);
     EXPECT_TRUE(session.shell.digitalClock && !session.shell.pictureNoteIndicator);
 }

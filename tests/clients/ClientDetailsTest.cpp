@@ -154,11 +154,8 @@ TEST_F(ClientDetailsTest, ACurrentClientIsListedInFullAndAPastOneShortened)
 TEST_F(ClientDetailsTest, AnyStoredYearOfBirthGivesAnAge)
 {
     ClientRecord client{};
-    putCat(client, 0, "Tigger", 1, INT_MIN);
-    putCat(client, 1, "Pig", 1, INT_MAX);
-    const Lines lines = listing(client).lines;
-    EXPECT_EQ(lines[9].substr(0, 26), "Tigger\t[M]\tAge=2147485672\t");
-    EXPECT_EQ(lines[10].substr(0, 24), "Pig\t[M]\tAge=-2147481623\t");
+    putCat(client, 0, "Tigger", 1, INT_MIN); // an age past 32 bits
+    EXPECT_EQ(listing(client).lines[9].substr(0, 26), "Tigger\t[M]\tAge=2147485672\t");
 }
 
 TEST_F(ClientDetailsTest, VaccinationCertificatesLastTheYearsSetIn365DayYears)

@@ -29,19 +29,14 @@ class ClientFormTest : public QObject {
     Q_OBJECT
 
 private slots:
+    // A failed save keeping the client out of the index is pinned in the core;
+    // here the form stays open as typed through a refusal and its warning.
     void newClientStaysOpenAsTypedThroughItsQuestionsAndAFailedSave()
     {
         ShellFixture shell;
         shell.session.currentYear = 2023;
         // A folder where the client index goes: the new client cannot be listed.
         QVERIFY(QDir(shell.dataFolder.path()).mkdir(QString::fromLatin1(currentIndexFile)));
-        const auto stillAsTyped = [](const QString& surname) {
-            return [surname](QWidget* dialog) {
-                QCOMPARE(edit(dialog, u"surnameEdit"_s)->text(), surname);
-                QCOMPARE(edit(dialog, catBox(1, "Name"))->text(), u"Methuselah"_s);
-                QCOMPARE(edit(dialog, catBox(1, "BirthYear"))->text(), u"1950"_s);
-            };
-        };
         ModalAnswers answers({
             [](QWidget* dialog) {
                 typeNewClient(dialog, u"Ng"_s);
@@ -50,8 +45,10 @@ private slots:
                 pressOk(dialog);
             },
             pressOk, // Name Error
-            [&](QWidget* dialog) {
-                stillAsTyped(u"Ng"_s)(dialog);
+            [](QWidget* dialog) {
+                QCOMPARE(edit(dialog, u"surnameEdit"_s)->text(), u"Ng"_s);
+                QCOMPARE(edit(dialog, catBox(1, "Name"))->text(), u"Methuselah"_s);
+                QCOMPARE(edit(dialog, catBox(1, "BirthYear"))->text(), u"1950"_s);
                 retype(dialog, u"surnameEdit"_s, u"Nguyen"_s);
                 pressOk(dialog);
             },
@@ -63,25 +60,13 @@ private slots:
             pressOk,
             pressOk, // Continue
             pressOk, // File Error
-            [&](QWidget* dialog) {
-                stillAsTyped(u"Nguyen"_s)(dialog);
-                press(QDialogButtonBox::Cancel)(dialog);
-            },
-            typeName(u"Nguyen"_s),
-            [](QWidget* dialog) {
-                QCOMPARE(edit(dialog, u"match1Edit"_s)->text(),
-                         u"No Client of name Nguyen found"_s);
-                press(QDialogButtonBox::Cancel)(dialog);
-            },
+            press(QDialogButtonBox::Cancel),
         });
         shell.trigger(command::newClient);
-        shell.trigger(command::seeClientDetails);
 
         QCOMPARE(answers.seen(), u"Full Client Information|Name Error|Full Client Information|"
                                  u"Apparent Date Error|Full Client Information|"
-                                 u"Apparent Date Error|File Error|Full Client Information|"
-                                 u"Client Index|Matching Clients"_s);
-        QVERIFY(shell.session.client.code.isEmpty());
+                                 u"Apparent Date Error|File Error|Full Client Information"_s);
     }
 
     void editedClientHandsBackTheEntriesAndWhyACatLeft()

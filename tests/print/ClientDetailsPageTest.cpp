@@ -35,21 +35,20 @@ TEST(ClientDetailsPageTest, TabbedPartsShareTheirLineAtTheTabColumnsAndALongList
     EXPECT_GT(page.drawn[7].y, tibbles.y);
 
     // One line more than the page holds: the last says so, inside the buffer.
+    const auto lastLine = [&] { return buffer.texts[static_cast<std::size_t>(buffer.count - 1)]; };
     listing.lines.assign(clientDetailsPageLines + 1, "line");
     fillClientDetailsPage(buffer, listing);
     EXPECT_EQ(buffer.count, 2 + clientDetailsPageLines + 1);
-    EXPECT_EQ(buffer.texts[static_cast<std::size_t>(buffer.count - 1)],
-              "(1 more line on the screen)");
+    EXPECT_EQ(lastLine(), "(1 more line on the screen)");
     listing.lines.resize(clientDetailsPageLines);
     fillClientDetailsPage(buffer, listing);
-    EXPECT_EQ(buffer.texts[static_cast<std::size_t>(buffer.count - 1)], "line");
+    EXPECT_EQ(lastLine(), "line");
 
     // Lines of many parts fill the slots before the lines run out.
     listing.lines.assign(40, "a\tb\tc\td");
     fillClientDetailsPage(buffer, listing);
     EXPECT_LE(buffer.count, printSlotCount);
-    EXPECT_EQ(buffer.texts[static_cast<std::size_t>(buffer.count - 1)],
-              "(16 more lines on the screen)");
+    EXPECT_EQ(lastLine(), "(16 more lines on the screen)");
 }
 
 } // namespace

@@ -9,40 +9,21 @@
 namespace purrlodge {
 namespace {
 
-TEST(PrintLineFormat, ReadsEveryFieldOfALine)
+// Whole lines are drawn field by field in PageLayoutTest; here the edges of the fields.
+TEST(PrintLineFormat, FieldsAreReadAtoiStyleAndTheSizeIsClampedIntoTheTable)
 {
-    const ParsedPrintLine raised = parsePrintLine("2, 18, -180, 4, n, 010, A");
-    EXPECT_EQ(raised.sizeIndex, 2);
-    EXPECT_FALSE(raised.bold);
-    EXPECT_EQ(raised.column, 18);
-    EXPECT_EQ(raised.offset, -180);
-    EXPECT_EQ(raised.face, "Arial Narrow");
-    EXPECT_FALSE(raised.underline);
-    EXPECT_EQ(raised.colour, (Rgb{0, 28, 0}));
-    EXPECT_EQ(raised.alignment, 'A');
-
-    const ParsedPrintLine shared = parsePrintLine("3, 7, -1, 5, u, 000, A");
-    EXPECT_EQ(shared.offset, -1);
-    EXPECT_EQ(shared.face, "Arial Black");
-    EXPECT_TRUE(shared.underline);
-
-    const ParsedPrintLine heading = parsePrintLine("0b, 20, 150, 2, n, 999, C");
-    EXPECT_TRUE(heading.bold);
-    EXPECT_EQ(heading.sizeIndex, 0);
+    const ParsedPrintLine heading = parsePrintLine("0b, 20, 150, 2, n, 000, C");
+    EXPECT_TRUE(heading.bold && heading.sizeIndex == 0 && heading.alignment == 'C');
     EXPECT_EQ(heading.face, "CloisterBlack BT");
-    EXPECT_EQ(heading.colour, (Rgb{254, 254, 254})) << "full intensity is 254";
-    EXPECT_EQ(heading.alignment, 'C');
-
     // Only a one-digit size can carry the bold mark; 12 is past the table and
-    // is read as its smallest size.
-    const ParsedPrintLine twoDigits = parsePrintLine("12b, 4, 0, 1, n, 000, A");
+    // is read as its smallest size. A field that does not start with a number reads as 0.
+    const ParsedPrintLine twoDigits = parsePrintLine("12b, x, 0, 1, n, 000, A");
     EXPECT_FALSE(twoDigits.bold);
     EXPECT_EQ(twoDigits.sizeIndex, 5);
-    EXPECT_EQ(parsePrintLine("5, 4, 0, 1, n, 000, A").sizeIndex, 5);
+    EXPECT_EQ(twoDigits.column, 0);
     EXPECT_EQ(parsePrintLine("6, 4, 0, 1, n, 000, A").sizeIndex, 5);
     EXPECT_EQ(parsePrintLine("-1, 4, 0, 1, n, 000, A").sizeIndex, 0);
-    // A field that does not start with a number reads as 0.
-    EXPECT_EQ(parsePrintLine("3, x, 0, 1, n, 000, A").column, 0);
+    EXPECT_EQ(withoutLastField("A"), "") << "no comma, no fields left";
 }
 
 TEST(PrintLineFormat, ColourDigitsFacesAndCellHeights)
@@ -50,7 +31,7 @@ TEST(PrintLineFormat, ColourDigitsFacesAndCellHeights)
     const auto colour = [](std::string_view field) {
         return parsePrintLine("3, 4, 0, 1, n, " + std::string(field) + ", A").colour;
     };
-    EXPECT_EQ(colour("900"), (Rgb{254, 0, 0}));
+    EXPECT_EQ(colour("900"), (Rgb{254, 0, 0})) << "full intensity is 254";
     EXPECT_EQ(colour("345"), (Rgb{84, 113, 141}));
     EXPECT_EQ(colour("678"), (Rgb{169, 198, 226}));
     EXPECT_EQ(colour("x1009"), (Rgb{0, 0, 254})) << "the last three characters count";
@@ -68,12 +49,6 @@ TEST(PrintLineFormat, ColourDigitsFacesAndCellHeights)
     EXPECT_EQ(printCellHeight(301, 0), 150) << "truncated";
 }
 
-TEST(PrintLineFormat, LastFieldIsDroppedAtTheLastComma)
-{
-    EXPECT_EQ(withoutLastField("3, 7, -1, 5, u, 000, A"), "3, 7, -1, 5, u, 000");
-    EXPECT_EQ(withoutLastField("A"), "");
-}
-
 TEST(PrintLineFormat, RecolouringReplacesTheColourFieldAndKeepsTheBlanks)
 {
     testing::FakeClock clock(1234);
@@ -82,11 +57,10 @@ TEST(PrintLineFormat, RecolouringReplacesTheColourFieldAndKeepsTheBlanks)
     const std::string_view name = "0b, 8, 50, 2, u, 000, C";
 
     EXPECT_EQ(recolourFormat(name, 4, draw), "0b,  8,  50,  2,  u, 900,  C");
-    EXPECT_EQ(parsePrintLine(recolourFormat(name, 4, draw)).colour, (Rgb{254, 0, 0}));
-    EXPECT_EQ(recolourFormat(name, 0, draw), "0b,  8,  50,  2,  u, 009,  C");
-    EXPECT_EQ(recolourFormat(name, 9, draw), "0b,  8,  50,  2,  u, 000,  C");
-    EXPECT_EQ(recolourFormat(name, 11, draw), "0b,  8,  50,  2,  u, 000,  C");
-    EXPECT_EQ(recolourFormat(name, -1, draw), "0b,  8,  50,  2,  u, 000,  C");
+    std::string colours; // schemes 0 to 9; any other index but 10 is black
+    for (int index : {0, 9, 11, -1})
+        colours += recolourFormat(name, index, draw).substr(21, 3) + " ";
+    EXPECT_EQ(colours, "009 000 000 000 ");
     EXPECT_TRUE(random.seeds.empty()) << "only 10 draws";
 
     // 10 draws one of the first ten schemes: 13 % 10 = 3, then 7.
