@@ -127,10 +127,11 @@ ArrivalForm openArrivalForm(const ClientRecord& client, const StayRecord& stay,
     return form;
 }
 
-std::string stayLengthText(const std::string& arrival, const std::string& departure,
-                           const RatesRecord& rates)
+std::string stayLengthText(std::string arrival, std::string departure, const RatesRecord& rates)
 {
-    if (!numberOfGoodDate(arrival) || !numberOfGoodDate(departure))
+    // Typed as OK will take them: a four-digit year loses its century.
+    if (countCheckAndNormalise(arrival, 2) != 0 || countCheckAndNormalise(departure, 2) != 0 ||
+        !numberOfGoodDate(arrival) || !numberOfGoodDate(departure))
         return {};
     const bool perDay = chargesPerDay(rates);
     const std::int64_t length = chargedDays(arrival, departure, perDay);
@@ -161,7 +162,8 @@ StayRecord stayRecordOf(const ArrivalForm& form, const ClientRecord& client,
     stay.arrivalWeekday.set(weekdayName(true, form.arrival, clock));
     stay.departureWeekday.set(weekdayName(true, form.departure, clock));
     stay.standardExtraChosen[0].set(form.standardExtraWanted ? 1 : 0);
-    stay.length.set(clampedToInt32(chargedDays(form.arrival, form.departure, chargesPerDay(rates))));
+    stay.length.set(
+        clampedToInt32(chargedDays(form.arrival, form.departure, chargesPerDay(rates))));
 
     const int arrivalYear = clock.toLocal(dateToNumber(form.arrival)).year;
     for (int slot = 0; slot < catSlotCount; ++slot) {

@@ -23,9 +23,8 @@ enum class ArrivalSheet : int {
 };
 inline constexpr int arrivalSheetCount = 3;
 
-// The widths the form's texts are typed to: dates and remarks to 36
-// characters and lines to 80, each as far as its field in the stay record
-// holds it.
+// The widths the form's texts are typed to: lines to 80 characters, dates
+// and remarks as far as their 25-byte fields in the stay record hold them.
 inline constexpr std::size_t stayDateTypedLimit = 24;   // the 25-byte date fields
 inline constexpr std::size_t stayRemarkTypedLimit = 24; // the 25-byte remark fields
 inline constexpr std::size_t stayLineTypedLimit = 80;
@@ -97,9 +96,10 @@ struct ArrivalForm {
                                           const RatesRecord& rates, const Clock& clock,
                                           const std::array<bool, arrivalSheetCount>& sheets);
 
-// The length of the stay as the rates charge it, "8 days" or "7 nights";
-// empty while either date is not a date.
-[[nodiscard]] std::string stayLengthText(const std::string& arrival, const std::string& departure,
+// The length of the stay as the rates charge it, "8 days" or "7 nights", the
+// dates read as OK reads them (a four-digit year too); empty while either
+// date is not a date.
+[[nodiscard]] std::string stayLengthText(std::string arrival, std::string departure,
                                          const RatesRecord& rates);
 
 // The stay record the form comes to, whole: the typed texts, the weekday

@@ -30,8 +30,7 @@ bool runPrintJob(PrintJobRunner& runner, const std::string& title, PrintBuffer& 
 // follows each job.
 class CommandJobs {
 public:
-    CommandJobs(PrintJobRunner& runner, PrintDialogState& dialog)
-        : runner_(runner), dialog_(dialog)
+    CommandJobs(PrintJobRunner& runner, PrintDialogState& dialog) : runner_(runner), dialog_(dialog)
     {}
 
     // Whether the page printed.

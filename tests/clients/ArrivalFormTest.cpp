@@ -1,6 +1,7 @@
+#include "clients/ArrivalForm.h"
+
 #include <gtest/gtest.h>
 
-#include "clients/ArrivalForm.h"
 #include "store/Dates.h"
 #include "support/Bytes.h"
 #include "support/FakePorts.h"
@@ -137,7 +138,7 @@ TEST_F(ArrivalFormTest, TheStayRecordIsWrittenWholeForANewStayAndAChangedOne)
 
 TEST_F(ArrivalFormTest, TheLengthIsShownAsTheRatesChargeAndTheSheetsChoiceIsKept)
 {
-    EXPECT_EQ(stayLengthText("28/11/26", "02/12/26", rates), "5 days");
+    EXPECT_EQ(stayLengthText("28/11/26", "2/12/2026", rates), "5 days");
     rates.perDay.set(0);
     EXPECT_EQ(stayLengthText("28/11/26", "02/12/26", rates), "4 nights");
     EXPECT_EQ(stayLengthText("28/11/26", "31/11/26", rates), "");

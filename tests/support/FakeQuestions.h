@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "app/StartupSequence.h"
-#include "app/commands/CatterySetup.h"
 #include "app/commands/ArrivalSheet.h"
+#include "app/commands/CatterySetup.h"
 #include "app/commands/ChangeDataSet.h"
 #include "app/commands/ClientEntry.h"
 #include "app/commands/ClientLookup.h"

@@ -7,11 +7,11 @@
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "clients/AutoMemo.h"
+#include "housekeeping/AdmissionRegister.h"
+#include "print/PrintBuffer.h"
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
 #include "store/SafeFile.h"
-#include "housekeeping/AdmissionRegister.h"
-#include "print/PrintBuffer.h"
 #include "support/DataSetGenerator.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
@@ -373,13 +373,13 @@ TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount
     };
     makeArrivalSheet(session, questions);
 
-    EXPECT_EQ(questions.asked,
-              (Lines{"An Auto Memo exists for Ann Smith: Felix needs his drops",
-                     "You seem to have entered wrong dates\nPlease check and try again / "
-                     "Arrival/Start date",
-                     "The date does not exist in that month ! / Arrival/Start date",
-                     "Departing/Starting before arrival! / Departure/End date",
-                     "More than 3 weeks?"}));
+    EXPECT_EQ(
+        questions.asked,
+        (Lines{"An Auto Memo exists for Ann Smith: Felix needs his drops",
+               "You seem to have entered wrong dates\nPlease check and try again / "
+               "Arrival/Start date",
+               "The date does not exist in that month ! / Arrival/Start date",
+               "Departing/Starting before arrival! / Departure/End date", "More than 3 weeks?"}));
     EXPECT_EQ(fakes.ui.titles(), Lines{"Names no Ticked"});
     EXPECT_TRUE(questions.arrivalOpened.at(0).arrival.empty()) << "the last stay is over";
     EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Arrival Sheet-2", true}, {"Return Shee (3)", false}}));
@@ -421,9 +421,9 @@ TEST_F(AccountCommandsTest, TheRegisterListsEachStayOfThePeriodOnceOverItsPages)
     ASSERT_TRUE(writeStayRecord(session.folder, code, stay));
     fileAccount(1003, "01/03/25", "05/03/25"); // the booked stay, accounted for
 
-    const std::vector<AdmissionEntry> march = collectAdmissions(
-        session.folder, session.index, dateToNumber("01/03/25"), dateToNumber("31/03/25"),
-        fakes.clock);
+    const std::vector<AdmissionEntry> march =
+        collectAdmissions(session.folder, session.index, dateToNumber("01/03/25"),
+                          dateToNumber("31/03/25"), fakes.clock);
     ASSERT_EQ(march.size(), 2u);
     EXPECT_EQ(march[0].arrival + " " + march[0].emergencyContact, "01/03/25 Jo 07700 900123");
     EXPECT_EQ(march[0].cats, (Lines{"Tibbles  (?, age ?)", "Felix  (?, age ?)"}));
