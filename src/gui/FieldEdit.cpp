@@ -46,4 +46,14 @@ void setFieldText(QLineEdit& edit, std::string_view bytes)
     edit.setText(fromWindows1252(bytes));
 }
 
+QLabel* newClientHeading(const QString& objectName, QWidget* parent)
+{
+    QLabel* label = newStaticLabel(objectName, parent);
+    QFont heading = label->font();
+    heading.setBold(true);
+    heading.setPointSizeF(heading.pointSizeF() * 1.25);
+    label->setFont(heading);
+    return label;
+}
+
 } // namespace purrlodge

@@ -25,6 +25,10 @@ QLabel* newBuddyLabel(const QString& text, QWidget* buddy, QWidget* parent);
 // A static: a named label whose text is shown as it stands, never as markup.
 QLabel* newStaticLabel(const QString& objectName, QWidget* parent);
 
+// The client's name at the top of a client's form: a static label in bold,
+// a quarter larger than the dialog's text.
+QLabel* newClientHeading(const QString& objectName, QWidget* parent);
+
 // The box's text as the core keeps it (1252 bytes) and back.
 [[nodiscard]] std::string fieldText(const QLineEdit& edit);
 void setFieldText(QLineEdit& edit, std::string_view bytes);

@@ -17,6 +17,7 @@
 
 #include "accounts/AccountRecord.h"
 #include "clients/ClientFormQuestions.h"
+#include "gui/CatCheckBoxes.h"
 #include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 #include "gui/FrontWindow.h"
@@ -42,9 +43,6 @@ constexpr std::size_t extraAmountFieldWidth = 8;
 constexpr std::size_t receiptFieldWidth = 10;
 // A description shows this many letters; a longer one scrolls.
 constexpr int descriptionLetters = 44;
-// The cat boxes stand three to a row.
-constexpr int catsPerRow = 3;
-
 QPushButton* newActionButton(const QString& text, const QString& objectName, QWidget* parent)
 {
     auto* button = new QPushButton(text, parent);
@@ -52,19 +50,6 @@ QPushButton* newActionButton(const QString& text, const QString& objectName, QWi
     // Return keeps meaning OK wherever the cursor is.
     button->setAutoDefault(false);
     return button;
-}
-
-QCheckBox* newCheckBox(const QString& text, const QString& objectName, QWidget* parent)
-{
-    auto* box = new QCheckBox(text, parent);
-    box->setObjectName(objectName);
-    return box;
-}
-
-// A name shown as a check box's text: an '&' in it is a letter, not a mnemonic.
-QString checkBoxText(const std::string& name)
-{
-    return fromWindows1252(name).replace(u'&', QStringLiteral("&&"));
 }
 
 void keepPlaceWhenHidden(QWidget* widget)
@@ -85,11 +70,7 @@ TDlg8::TDlg8(const AccountPreparationForm& initial, AccountPreparation& preparat
     setObjectName(QStringLiteral("accountPreparationDialog"));
     setWindowTitle(QStringLiteral("Account Preparation"));
 
-    clientLabel_ = newStaticLabel(QStringLiteral("clientLabel"), this);
-    QFont heading = clientLabel_->font();
-    heading.setBold(true);
-    heading.setPointSizeF(heading.pointSizeF() * 1.25);
-    clientLabel_->setFont(heading);
+    clientLabel_ = newClientHeading(QStringLiteral("clientLabel"), this);
 
     // Built in the order the Tab key visits them: the stay, the money, the
     // printing, then the buttons.
@@ -160,14 +141,8 @@ QGroupBox* TDlg8::buildStayBox()
     dates->addStretch(1);
     dates->addWidget(alterDatesButton_);
 
-    auto* cats = new QGridLayout;
-    for (int slot = 0; slot < catSlotCount; ++slot) {
-        QCheckBox* cat = newCheckBox(QString(), QStringLiteral("cat%1CheckBox").arg(slot + 1), box);
-        catBox_[static_cast<std::size_t>(slot)] = cat;
-        cats->addWidget(cat, slot / catsPerRow, slot % catsPerRow);
-    }
-    for (int column = 0; column < catsPerRow; ++column)
-        cats->setColumnStretch(column, 1);
+    catBoxes_ = std::make_unique<CatCheckBoxes>(box);
+    QGridLayout* cats = catBoxes_->grid();
 
     auto* column = new QVBoxLayout(box);
     column->addLayout(dates);
@@ -311,7 +286,7 @@ QGroupBox* TDlg8::buildPrintingBox()
 void TDlg8::setKeyboardOrder(const std::vector<QWidget*>& buttons)
 {
     std::vector<QWidget*> chain{alterDatesButton_};
-    chain.insert(chain.end(), catBox_.begin(), catBox_.end());
+    chain.insert(chain.end(), catBoxes_->boxes().begin(), catBoxes_->boxes().end());
     chain.insert(chain.end(),
                  {receiptEdit_, extrasDescriptionEdit_, extrasAmountEdit_, creditDescriptionEdit_,
                   creditAmountEdit_, discountDescriptionEdit_, discountPercentageEdit_,
@@ -327,11 +302,7 @@ void TDlg8::fill(const AccountPreparationForm& form)
 {
     clientLabel_->setText(fromWindows1252(form.clientLine));
     showDates();
-    for (std::size_t slot = 0; slot < catBox_.size(); ++slot) {
-        catBox_[slot]->setText(checkBoxText(form.cats[slot].name));
-        catBox_[slot]->setChecked(form.cats[slot].ticked);
-        catBox_[slot]->setVisible(form.catShown[slot]);
-    }
+    catBoxes_->show(form.cats, form.catShown);
     setFieldText(*receiptEdit_, form.receiptNumber);
     setFieldText(*extrasDescriptionEdit_, form.extrasDescription);
     setFieldText(*extrasAmountEdit_, form.extrasAmount);
@@ -351,8 +322,7 @@ void TDlg8::fill(const AccountPreparationForm& form)
 AccountPreparationForm TDlg8::form() const
 {
     AccountPreparationForm form = shown_;
-    for (std::size_t slot = 0; slot < catBox_.size(); ++slot)
-        form.cats[slot].ticked = catBox_[slot]->isChecked();
+    catBoxes_->readTicks(form.cats);
     form.receiptNumber = fieldText(*receiptEdit_);
     form.extrasDescription = fieldText(*extrasDescriptionEdit_);
     form.extrasAmount = fieldText(*extrasAmountEdit_);

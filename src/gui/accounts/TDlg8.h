@@ -2,8 +2,10 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "accounts/AccountPreparation.h"
+#include "gui/CatCheckBoxes.h"
 #include "gui/FormDialog.h"
 
 class QAbstractButton;
@@ -61,32 +63,32 @@ private:
     AccountPreparationForm shown_; // the client line, the cats' names and the dates
     StandardExtraControls extra_;  // as the Yes and No buttons left it
 
-    QLabel* clientLabel_ = nullptr;                 // 145
-    QLabel* arrivalLabel_ = nullptr;                // 101
-    QLabel* departureLabel_ = nullptr;              // 102
-    QPushButton* alterDatesButton_ = nullptr;       // 116
-    std::array<QCheckBox*, catSlotCount> catBox_{}; // 109..114 with 122..127
-    QLineEdit* receiptEdit_ = nullptr;              // 131
-    QLineEdit* extrasDescriptionEdit_ = nullptr;    // 103
-    QLineEdit* extrasAmountEdit_ = nullptr;         // 106
-    QLineEdit* creditDescriptionEdit_ = nullptr;    // 104
-    QLineEdit* creditAmountEdit_ = nullptr;         // 107
-    QLineEdit* discountDescriptionEdit_ = nullptr;  // 105
-    QLineEdit* discountPercentageEdit_ = nullptr;   // 108
-    QLabel* standardExtraHeading_ = nullptr;        // beside 150 and 147
-    QRadioButton* extraYesRadioButton_ = nullptr;   // 150
-    QRadioButton* extraNoRadioButton_ = nullptr;    // 147
-    QLabel* extraNameLabel_ = nullptr;              // 149
-    QLineEdit* extraAmountEdit_ = nullptr;          // 151
-    QLabel* countLabel_ = nullptr;                  // 115
-    QLabel* chargeLabel_ = nullptr;                 // 117
-    QPushButton* registerChangeButton_ = nullptr;   // 140
-    QPushButton* testDiscountButton_ = nullptr;     // 130
-    QCheckBox* namesLineCheckBox_ = nullptr;        // 148
-    QCheckBox* omitTopSheetCheckBox_ = nullptr;     // 133
-    QCheckBox* omitCopyCheckBox_ = nullptr;         // 134
-    QLineEdit* notesEdit_ = nullptr;                // 137
-    QPushButton* specialNotesButton_ = nullptr;     // 139
+    QLabel* clientLabel_ = nullptr;           // 145
+    QLabel* arrivalLabel_ = nullptr;          // 101
+    QLabel* departureLabel_ = nullptr;        // 102
+    QPushButton* alterDatesButton_ = nullptr; // 116
+    std::unique_ptr<CatCheckBoxes> catBoxes_;
+    QLineEdit* receiptEdit_ = nullptr;             // 131
+    QLineEdit* extrasDescriptionEdit_ = nullptr;   // 103
+    QLineEdit* extrasAmountEdit_ = nullptr;        // 106
+    QLineEdit* creditDescriptionEdit_ = nullptr;   // 104
+    QLineEdit* creditAmountEdit_ = nullptr;        // 107
+    QLineEdit* discountDescriptionEdit_ = nullptr; // 105
+    QLineEdit* discountPercentageEdit_ = nullptr;  // 108
+    QLabel* standardExtraHeading_ = nullptr;       // beside 150 and 147
+    QRadioButton* extraYesRadioButton_ = nullptr;  // 150
+    QRadioButton* extraNoRadioButton_ = nullptr;   // 147
+    QLabel* extraNameLabel_ = nullptr;             // 149
+    QLineEdit* extraAmountEdit_ = nullptr;         // 151
+    QLabel* countLabel_ = nullptr;                 // 115
+    QLabel* chargeLabel_ = nullptr;                // 117
+    QPushButton* registerChangeButton_ = nullptr;  // 140
+    QPushButton* testDiscountButton_ = nullptr;    // 130
+    QCheckBox* namesLineCheckBox_ = nullptr;       // 148
+    QCheckBox* omitTopSheetCheckBox_ = nullptr;    // 133
+    QCheckBox* omitCopyCheckBox_ = nullptr;        // 134
+    QLineEdit* notesEdit_ = nullptr;               // 137
+    QPushButton* specialNotesButton_ = nullptr;    // 139
 };
 
 } // namespace purrlodge

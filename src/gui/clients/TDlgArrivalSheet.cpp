@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "clients/ClientDetails.h"
+#include "gui/CatCheckBoxes.h"
 #include "gui/DialogButtons.h"
 #include "gui/FieldEdit.h"
 #include "gui/HelpPage.h"
@@ -37,22 +38,6 @@ constexpr int lineLetters = 44;
 constexpr int remarkLetters = 16;
 // The checks show this many letters to a line before they wrap.
 constexpr int checksLetters = 40;
-// The cat boxes stand three to a row.
-constexpr int catsPerRow = 3;
-
-QCheckBox* newCheckBox(const QString& text, const QString& objectName, QWidget* parent)
-{
-    auto* box = new QCheckBox(text, parent);
-    box->setObjectName(objectName);
-    return box;
-}
-
-// A name shown as a check box's text: an '&' in it is a letter, not a mnemonic.
-QString checkBoxText(const std::string& name)
-{
-    return fromWindows1252(name).replace(u'&', QStringLiteral("&&"));
-}
-
 void setTextColour(QWidget* widget, const QColor& colour)
 {
     QPalette palette = widget->palette();
@@ -71,11 +56,7 @@ TDlgArrivalSheet::TDlgArrivalSheet(const ArrivalForm& initial, const RatesRecord
     setObjectName(QStringLiteral("arrivalSheetDialog"));
     setWindowTitle(QStringLiteral("Arrival Sheet"));
 
-    clientLabel_ = newStaticLabel(QStringLiteral("clientLabel"), this);
-    QFont heading = clientLabel_->font();
-    heading.setBold(true);
-    heading.setPointSizeF(heading.pointSizeF() * 1.25);
-    clientLabel_->setFont(heading);
+    clientLabel_ = newClientHeading(QStringLiteral("clientLabel"), this);
 
     // Built in the order the Tab key visits them: down the left column (the
     // stay, then what goes with it), down the right (the checks and the
@@ -141,7 +122,7 @@ TDlgArrivalSheet::TDlgArrivalSheet(const ArrivalForm& initial, const RatesRecord
 
     std::vector<QWidget*> chain{arrivalEdit_, arrivalRemarkEdit_, departureEdit_,
                                 departureRemarkEdit_};
-    chain.insert(chain.end(), catBox_.begin(), catBox_.end());
+    chain.insert(chain.end(), catBoxes_->boxes().begin(), catBoxes_->boxes().end());
     chain.insert(chain.end(),
                  {standardExtraCheckBox_, medicationEdit_, feedingChangesEdit_,
                   emergencyContactEdit_, itemsBroughtEdit_, vaccinationEdit_, clientChecksText_});
@@ -203,14 +184,8 @@ QGroupBox* TDlgArrivalSheet::buildStayBox()
     dates->addWidget(lengthLabel_, 3, 1, 1, 2);
     dates->setColumnStretch(2, 1);
 
-    auto* cats = new QGridLayout;
-    for (int slot = 0; slot < catSlotCount; ++slot) {
-        QCheckBox* cat = newCheckBox(QString(), QStringLiteral("cat%1CheckBox").arg(slot + 1), box);
-        catBox_[static_cast<std::size_t>(slot)] = cat;
-        cats->addWidget(cat, slot / catsPerRow, slot % catsPerRow);
-    }
-    for (int column = 0; column < catsPerRow; ++column)
-        cats->setColumnStretch(column, 1);
+    catBoxes_ = std::make_unique<CatCheckBoxes>(box);
+    QGridLayout* cats = catBoxes_->grid();
 
     standardExtraCheckBox_ = newCheckBox(QString(), QStringLiteral("standardExtraCheckBox"), box);
 
@@ -270,11 +245,7 @@ void TDlgArrivalSheet::fill(const ArrivalForm& form)
     setFieldText(*departureEdit_, form.departure);
     setFieldText(*departureRemarkEdit_, form.departureRemark);
     showStayLength();
-    for (std::size_t slot = 0; slot < catBox_.size(); ++slot) {
-        catBox_[slot]->setText(checkBoxText(form.cats[slot].name));
-        catBox_[slot]->setChecked(form.cats[slot].ticked);
-        catBox_[slot]->setVisible(form.catShown[slot]);
-    }
+    catBoxes_->show(form.cats, form.catShown);
     standardExtraCheckBox_->setText(checkBoxText(form.standardExtraName) +
                                     QStringLiteral(" wanted"));
     standardExtraCheckBox_->setChecked(form.standardExtraWanted);
@@ -297,8 +268,7 @@ ArrivalForm TDlgArrivalSheet::form() const
     form.arrivalRemark = fieldText(*arrivalRemarkEdit_);
     form.departure = fieldText(*departureEdit_);
     form.departureRemark = fieldText(*departureRemarkEdit_);
-    for (std::size_t slot = 0; slot < catBox_.size(); ++slot)
-        form.cats[slot].ticked = catBox_[slot]->isChecked();
+    catBoxes_->readTicks(form.cats);
     form.standardExtraWanted = standardExtraCheckBox_->isChecked();
     form.medication = fieldText(*medicationEdit_);
     form.feedingChanges = fieldText(*feedingChangesEdit_);

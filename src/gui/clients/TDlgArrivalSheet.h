@@ -2,9 +2,11 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "accounts/RatesRecord.h"
 #include "clients/ArrivalForm.h"
+#include "gui/CatCheckBoxes.h"
 #include "gui/FormDialog.h"
 #include "ports/FormVerdict.h"
 
@@ -54,7 +56,7 @@ private:
     QLineEdit* departureEdit_ = nullptr;
     QLineEdit* departureRemarkEdit_ = nullptr;
     QLabel* lengthLabel_ = nullptr;
-    std::array<QCheckBox*, catSlotCount> catBox_{};
+    std::unique_ptr<CatCheckBoxes> catBoxes_;
     QCheckBox* standardExtraCheckBox_ = nullptr;
     QLineEdit* medicationEdit_ = nullptr;
     QLineEdit* feedingChangesEdit_ = nullptr;
