@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/ClientRecord.h"
+
+namespace purrlodge {
+
+class DataFolder;
+
+// The client's note book, "<code>.NTS": one line of the note per line of the
+// file, each ended by CR LF.
+
+// "Notes for %s %s %s" with the title, first name and surname.
+[[nodiscard]] std::string noteBookHeading(const ClientRecord& client);
+
+// The lines of the note book, each cut at its line end and to 500
+// characters; none when there is no note book (or it cannot be read).
+[[nodiscard]] std::vector<std::string> readNoteBook(const DataFolder& folder,
+                                                    std::string_view code);
+
+// OK of the note book: when the last line holds a letter or digit, every line
+// (to 500 characters) is written; otherwise the note book is deleted as a
+// whole, as the help page tells the person to delete the blank lines at the
+// bottom. A write or a deletion that fails has been told to the person;
+// false then, and the file is as it was.
+[[nodiscard]] bool saveNoteBook(const DataFolder& folder, std::string_view code,
+                                const std::vector<std::string>& lines);
+
+// The auto memo's text as Set Auto Memo saves it: at most 1000 characters
+// in the 1001-byte record. Whether it was written.
+[[nodiscard]] bool saveAutoMemo(const DataFolder& folder, std::string_view code,
+                                std::string_view text);
+
+inline constexpr std::size_t autoMemoLimit = 1000;
+inline constexpr std::size_t accountNoteLimit = 120;
+
+} // namespace purrlodge
