@@ -30,7 +30,9 @@ template <std::size_t Width> struct FixedText {
     void set(std::string_view text)
     {
         std::memset(bytes, 0, Width);
-        std::memcpy(bytes, text.data(), text.size() < capacity ? text.size() : capacity);
+        // An empty view may have no data at all, which memcpy must not be given.
+        if (!text.empty())
+            std::memcpy(bytes, text.data(), text.size() < capacity ? text.size() : capacity);
     }
 
     void clear() { std::memset(bytes, 0, Width); }
