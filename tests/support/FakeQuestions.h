@@ -11,6 +11,8 @@
 #include "app/commands/CatterySetup.h"
 #include "app/commands/ChangeDataSet.h"
 #include "app/commands/ClientEntry.h"
+#include "app/commands/ClientNotes.h"
+#include "app/commands/ClientRemoval.h"
 #include "app/commands/ClientLookup.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
@@ -316,6 +318,63 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, 
     std::deque<bool> deleteAnswers;
     ScriptedForm<std::string> accountNumber;
     std::vector<std::vector<std::string>> found;
+};
+
+// The notes and removal commands' questions answered from scripts.
+struct ScriptedNotesQuestions : ClientNotesQuestions, ClientRemovalQuestions {
+    std::optional<FinderEntry> askClientName(const FinderOptions&, const FinderEntry&) override
+    {
+        return next(names);
+    }
+    std::optional<int> chooseMatch(const FinderResult&) override { return next(matches); }
+
+    std::optional<FormVerdict> fillNoteBook(const std::string& heading,
+                                            const std::vector<std::string>& lines,
+                                            const OkRule<std::vector<std::string>>& onOk) override
+    {
+        asked.push_back(heading);
+        return noteBook.run(lines, onOk);
+    }
+    std::optional<FormVerdict> fillAutoMemo(const std::string& memo,
+                                            const OkRule<std::string>& onOk) override
+    {
+        return autoMemo.run(memo, onOk);
+    }
+    std::optional<FormVerdict> fillAccountNote(const std::string& note,
+                                               const OkRule<std::string>& onOk) override
+    {
+        return accountNote.run(note, onOk);
+    }
+
+    std::optional<ClientDeletionChoice> askDeletion(const std::string& text) override
+    {
+        asked.push_back(text);
+        return next(deletions);
+    }
+    bool confirmRemovalForGood(const std::string&) override { return next(confirmations); }
+    std::optional<PastClientChoice> chooseInPastClients(const std::string& caption,
+                                                        const std::vector<std::string>& lines) override
+    {
+        asked.push_back(caption);
+        pastLists.push_back(lines);
+        return next(pastChoices);
+    }
+    void showPastClientDetails(const ClientDetailsListing& listing) override
+    {
+        detailsShown.push_back(listing);
+    }
+
+    std::deque<std::optional<FinderEntry>> names;
+    std::deque<std::optional<int>> matches;
+    ScriptedForm<std::vector<std::string>> noteBook;
+    ScriptedForm<std::string> autoMemo;
+    ScriptedForm<std::string> accountNote;
+    std::deque<std::optional<ClientDeletionChoice>> deletions;
+    std::deque<bool> confirmations;
+    std::deque<std::optional<PastClientChoice>> pastChoices;
+    std::vector<std::vector<std::string>> pastLists;
+    std::vector<ClientDetailsListing> detailsShown;
+    std::vector<std::string> asked;
 };
 
 } // namespace purrlodge::testing
