@@ -17,8 +17,13 @@ class DataFolder;
 // "Notes for %s %s %s" with the title, first name and surname.
 [[nodiscard]] std::string noteBookHeading(const ClientRecord& client);
 
-// The lines of the note book, each cut at its line end and to 500
-// characters; none when there is no note book (or it cannot be read).
+// The lines of the note book as the file holds them, each without its line
+// end: a note book is a page of notes, so a damaged file of any size is read
+// no further than noteBookLargest bytes. None when there is no note book.
+[[nodiscard]] std::vector<std::string> noteBookFileLines(const DataFolder& folder,
+                                                         std::string_view code);
+
+// The lines of the note book for editing, each cut to 500 characters.
 [[nodiscard]] std::vector<std::string> readNoteBook(const DataFolder& folder,
                                                     std::string_view code);
 

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "clients/EarlierCatRecord.h"
+#include "clients/NoteBook.h"
 #include "clients/OtherCatsFile.h"
 #include "store/ClientFiles.h"
 #include "store/DataFolder.h"
@@ -41,27 +42,12 @@ void listEarlierCats(const DataFolder& folder, std::string_view code,
     }
 }
 
-// The note book is a text file of CR LF lines; each non-empty line is listed,
-// a very long one in pieces. A note book is a page of notes: a damaged file
-// of any size is read no further than noteBookLargest bytes.
+// Each non-empty line of the note book is listed, a very long one in pieces.
 void listNoteBook(const DataFolder& folder, std::string_view code, std::vector<std::string>& lines)
 {
-    std::ifstream file = openClientFile(folder, code, extension::noteBook);
-    if (!file)
-        return;
-    std::string text(noteBookLargest, '\0');
-    file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(file.gcount()));
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = std::min(text.find('\n', start), text.size());
-        std::string_view line(text.data() + start, end - start);
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
+    for (const std::string& line : noteBookFileLines(folder, code))
         for (std::size_t piece = 0; piece < line.size(); piece += noteBookLineLimit)
             lines.emplace_back(line.substr(piece, noteBookLineLimit));
-        start = end + 1;
-    }
 }
 
 // "%s  %s  %s %s:    %s" (name, breed, colour, reason, history) and the notes.

@@ -139,19 +139,38 @@ bool DataFolder::existsIgnoringCase(std::string_view name) const
     return false;
 }
 
-std::vector<std::string> DataFolder::namesWithExtension(std::string_view extension) const
+namespace {
+
+// The names of the folder's regular files that the test accepts, sorted.
+template <class Test>
+std::vector<std::string> namesWhere(const std::string& folder, const Test& accepted)
 {
-    const std::string wanted = toUpper(extension);
     std::vector<std::string> names;
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(toPath(folder_), error)) {
+    for (const auto& entry : std::filesystem::directory_iterator(toPath(folder), error)) {
         std::string name = windows1252Of(entry.path().filename());
-        if (name.size() > wanted.size() && toUpper(name).ends_with(wanted) &&
-            entry.is_regular_file(error))
+        if (accepted(toUpper(name)) && entry.is_regular_file(error))
             names.push_back(std::move(name));
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+} // namespace
+
+std::vector<std::string> DataFolder::namesWithExtension(std::string_view extension) const
+{
+    const std::string wanted = toUpper(extension);
+    return namesWhere(folder_, [&wanted](const std::string& name) {
+        return name.size() > wanted.size() && name.ends_with(wanted);
+    });
+}
+
+std::vector<std::string> DataFolder::namesWithStem(std::string_view stem) const
+{
+    const std::string wanted = toUpper(stem) + '.';
+    return namesWhere(folder_,
+                      [&wanted](const std::string& name) { return name.starts_with(wanted); });
 }
 
 bool DataFolder::remove(std::string_view name) const

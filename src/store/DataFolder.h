@@ -38,6 +38,8 @@ public:
     [[nodiscard]] const std::string& path() const { return folder_; }
     void setPath(std::string folder) { folder_ = std::move(folder); }
     [[nodiscard]] std::string fileName(std::string_view name) const;
+    // Where the folder tells the person of the files it could not write.
+    [[nodiscard]] Ui& ui() const { return ui_; }
 
     // Clears the block, then reads what the file holds: a missing or short file
     // leaves zeros, and only the block's size is ever read. A file more than
@@ -81,6 +83,9 @@ public:
     // The names of the folder's files whose name ends in `extension`, compared
     // without regard to case, in file-name order.
     [[nodiscard]] std::vector<std::string> namesWithExtension(std::string_view extension) const;
+    // The names of the folder's files whose name begins with `stem` and a dot
+    // ("<stem>.*"), the stem compared without regard to case.
+    [[nodiscard]] std::vector<std::string> namesWithStem(std::string_view stem) const;
 
     // The size of the file in bytes; nothing when there is no such file.
     [[nodiscard]] std::optional<std::uintmax_t> fileSize(std::string_view name) const;
