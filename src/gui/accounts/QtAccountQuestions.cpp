@@ -14,7 +14,6 @@
 #include "gui/accounts/TDlg8.h"
 #include "gui/clients/FinderDialogs.h"
 #include "gui/clients/TDlg16.h"
-#include "gui/clients/TDlg52.h"
 #include "gui/clients/TDlgArrivalSheet.h"
 #include "gui/clients/TDlgRegisterPeriod.h"
 
@@ -47,12 +46,10 @@ QtAccountQuestions::fillAccountPreparation(const AccountPreparationForm& initial
                                            AccountPreparation& preparation,
                                            const OkRule<AccountPreparationForm>& onOk)
 {
+    // The note book opens in front of Account Preparation, the window in front.
     TDlg8::ShowSpecialNotes showSpecialNotes;
-    if (specialNotes_)
-        showSpecialNotes = [this](QWidget* dialog) {
-            TDlg52 notes(specialNotes_(), dialog);
-            notes.exec();
-        };
+    if (editSpecialNotes_)
+        showSpecialNotes = [this](QWidget*) { editSpecialNotes_(); };
     TDlg8 dialog(initial, preparation, onOk, showSpecialNotes, parent());
     dialog.exec();
     return dialog.verdict();

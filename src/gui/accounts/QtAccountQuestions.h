@@ -8,7 +8,6 @@
 #include "app/commands/ArrivalSheet.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
-#include "clients/OtherCatsList.h"
 
 namespace purrlodge {
 
@@ -49,16 +48,16 @@ public:
     std::optional<FormVerdict> fillRegisterPeriod(const RegisterPeriod& initial,
                                                   const OkRule<RegisterPeriod>& onOk) override;
 
-    // The current client's note book, for the Special Notes button of Account
-    // Preparation; without it the button is greyed.
-    using SpecialNotesSource = std::function<OtherCatsListing()>;
-    void setSpecialNotesSource(SpecialNotesSource source) { specialNotes_ = std::move(source); }
+    // Opens the current client's note book for editing, for the Special Notes
+    // button of Account Preparation; without it the button is greyed.
+    using SpecialNotesEditor = std::function<void()>;
+    void setSpecialNotesEditor(SpecialNotesEditor editor) { editSpecialNotes_ = std::move(editor); }
 
 private:
     [[nodiscard]] QWidget* parent() const;
 
     QPointer<QWidget> mainWindow_;
-    SpecialNotesSource specialNotes_;
+    SpecialNotesEditor editSpecialNotes_;
 };
 
 } // namespace purrlodge

@@ -29,7 +29,7 @@ class TDlg8 : public FormDialog {
 
 public:
     using AcceptForm = std::function<FormVerdict(const AccountPreparationForm&)>;
-    // Shows the client's note book, read only, in front of `dialog`.
+    // Opens the client's note book in front of `dialog`.
     using ShowSpecialNotes = std::function<void(QWidget* dialog)>;
 
     TDlg8(const AccountPreparationForm& initial, AccountPreparation& preparation,

@@ -13,11 +13,12 @@
 #include "app/CommandIds.h"
 #include "app/Session.h"
 #include "app/commands/ArrivalSheet.h"
+#include "app/commands/ClientNotes.h"
+#include "app/commands/ClientRemoval.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "app/commands/Printing.h"
 #include "app/commands/ShellToggles.h"
-#include "clients/OtherCatsList.h"
 #include "gui/app/ClockFace.h"
 #include "gui/app/MainMenu.h"
 #include "gui/app/MainToolBar.h"
@@ -139,6 +140,9 @@ void TMyWindow::buildCommandTable()
     setEnabler(command::euroExchangeRate,
                [&session] { return euroExchangeRateEnabled(session.rates); });
     setCommand(command::setStandardExtra, [this] { setStandardExtra(session_, setupQuestions_); });
+    // Setup's "Set Auto Memo" and Tasks' "Set AutoMemo" are one command.
+    setCommand(command::setAutoMemo, [this] { setAutoMemo(session_, clientQuestions_); });
+    setCommand(command::setAccountNote, [this] { setAccountNote(session_, clientQuestions_); });
     setCommand(command::setAccountNumber, [this] { setAccountNumber(session_, setupQuestions_); });
     setCommand(command::changeDataSet,
                [this] { quitWith(changeDataSet(session_, setupQuestions_)); });
@@ -170,18 +174,18 @@ void TMyWindow::buildCommandTable()
     setCommand(command::editClientDetails,
                [this] { editClientDetails(session_, clientQuestions_); });
     setCommand(command::newClient, [this] { newClient(session_, clientQuestions_); });
+    setCommand(command::deleteClient, [this] { deleteClient(session_, clientQuestions_); });
     setCommand(command::globalSearch, [this] { globalSearch(session_, clientQuestions_); });
     setCommand(command::makeArrivalSheet,
                [this] { makeArrivalSheet(session_, accountQuestions_); });
     setCommand(command::issueAccount, [this] { issueAccount(session_, accountQuestions_); });
-    accountQuestions_.setSpecialNotesSource([this] {
-        return otherCatsListing(session_.folder, session_.clientCode, session_.client,
-                                OtherCatsMode::NoteBook);
-    });
+    accountQuestions_.setSpecialNotesEditor([this] { editNoteBook(session_, clientQuestions_); });
     setCommand(command::viewPastAccounts,
                [this] { viewPastAccounts(session_, accountQuestions_); });
     setCommand(command::findNumberedAccount,
                [this] { findNumberedAccount(session_, accountQuestions_); });
+    setCommand(command::viewPastClients, [this] { viewPastClients(session_, clientQuestions_); });
+    setCommand(command::makeNotes, [this] { makeNotes(session_, clientQuestions_); });
     setCommand(command::exitProgram, [this] { close(); });
 
     // Good-Housekeeping

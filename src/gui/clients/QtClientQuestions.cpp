@@ -1,16 +1,24 @@
 #include "gui/clients/QtClientQuestions.h"
 
+#include <QMessageBox>
+
 #include "gui/FrontWindow.h"
+#include "gui/Text1252.h"
 #include "gui/clients/FinderDialogs.h"
 #include "gui/clients/TDlg12.h"
 #include "gui/clients/TDlg16.h"
 #include "gui/clients/TDlg3.h"
 #include "gui/clients/TDlg37.h"
 #include "gui/clients/TDlg38.h"
+#include "gui/clients/TDlg40.h"
+#include "gui/clients/TDlg45.h"
 #include "gui/clients/TDlg5.h"
 #include "gui/clients/TDlg50.h"
 #include "gui/clients/TDlg51.h"
 #include "gui/clients/TDlg52.h"
+#include "gui/clients/TDlg53.h"
+#include "gui/clients/TDlg62.h"
+#include "gui/clients/TDlg80.h"
 
 namespace purrlodge {
 
@@ -100,6 +108,64 @@ void QtClientQuestions::showGlobalSearchResults(const GlobalSearchResult& result
                                                 const ResultLineAction& showDetails)
 {
     TDlg38 dialog(result, showDetails, parent());
+    dialog.exec();
+}
+
+std::optional<FormVerdict>
+QtClientQuestions::fillNoteBook(const std::string& heading, const std::vector<std::string>& lines,
+                                const OkRule<std::vector<std::string>>& onOk)
+{
+    TDlg45 dialog(heading, lines, onOk, parent());
+    dialog.exec();
+    return dialog.verdict();
+}
+
+std::optional<FormVerdict> QtClientQuestions::fillAutoMemo(const std::string& memo,
+                                                           const OkRule<std::string>& onOk)
+{
+    TDlg62 dialog(memo, onOk, parent());
+    dialog.exec();
+    return dialog.verdict();
+}
+
+std::optional<FormVerdict> QtClientQuestions::fillAccountNote(const std::string& note,
+                                                              const OkRule<std::string>& onOk)
+{
+    TDlg80 dialog(note, onOk, parent());
+    dialog.exec();
+    return dialog.verdict();
+}
+
+std::optional<ClientDeletionChoice> QtClientQuestions::askDeletion(const std::string& text)
+{
+    TDlg40 dialog(text, parent());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.choice();
+}
+
+bool QtClientQuestions::confirmRemovalForGood(const std::string& question)
+{
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Remove Client"),
+                    fromWindows1252(question), QMessageBox::Yes | QMessageBox::No, parent());
+    box.setObjectName(QStringLiteral("removeClientBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<PastClientChoice>
+QtClientQuestions::chooseInPastClients(const std::string& caption,
+                                       const std::vector<std::string>& lines)
+{
+    TDlg53 dialog(caption, lines, parent());
+    dialog.exec();
+    return dialog.choice();
+}
+
+void QtClientQuestions::showPastClientDetails(const ClientDetailsListing& listing)
+{
+    TDlg12 dialog(listing, parent());
     dialog.exec();
 }
 

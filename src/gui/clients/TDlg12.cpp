@@ -34,6 +34,30 @@ TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
     : QDialog(parent), openOtherCats_(std::move(openOtherCats)),
       printListing_(std::move(printListing))
 {
+    QDialogButtonBox* buttons = buildListing(listing);
+    printButton_ = newButton(QStringLiteral("&Print"), QStringLiteral("printButton"), buttons);
+    printButton_->setEnabled(static_cast<bool>(printListing_));
+    connect(printButton_, &QPushButton::clicked, this, [this] { printListing_(); });
+    otherCatsButton_ =
+        newButton(QStringLiteral("See &Other Cats"), QStringLiteral("otherCatsButton"), buttons);
+    otherCatsButton_->setEnabled(listing.otherCatsEnabled);
+    specialNotesButton_ = newButton(QStringLiteral("See &Special Notes"),
+                                    QStringLiteral("specialNotesButton"), buttons);
+    specialNotesButton_->setEnabled(listing.specialNotesEnabled);
+    connect(otherCatsButton_, &QPushButton::clicked, this,
+            [this] { openOtherCats_(this, OtherCatsMode::EarlierSpecialNotes); });
+    connect(specialNotesButton_, &QPushButton::clicked, this,
+            [this] { openOtherCats_(this, OtherCatsMode::NoteBook); });
+}
+
+TDlg12::TDlg12(const ClientDetailsListing& listing, QWidget* parent) : QDialog(parent)
+{
+    buildListing(listing);
+    setObjectName(QStringLiteral("pastClientDetailsDialog"));
+}
+
+QDialogButtonBox* TDlg12::buildListing(const ClientDetailsListing& listing)
+{
     setObjectName(QStringLiteral("clientDetailsDialog"));
     setWindowTitle(fromWindows1252(listing.caption));
 
@@ -49,23 +73,11 @@ TDlg12::TDlg12(const ClientDetailsListing& listing, OpenOtherCats openOtherCats,
 
     QDialogButtonBox* buttons = newButtonBox(this, QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    printButton_ = newButton(QStringLiteral("&Print"), QStringLiteral("printButton"), buttons);
-    printButton_->setEnabled(static_cast<bool>(printListing_));
-    connect(printButton_, &QPushButton::clicked, this, [this] { printListing_(); });
-    otherCatsButton_ =
-        newButton(QStringLiteral("See &Other Cats"), QStringLiteral("otherCatsButton"), buttons);
-    otherCatsButton_->setEnabled(listing.otherCatsEnabled);
-    specialNotesButton_ = newButton(QStringLiteral("See &Special Notes"),
-                                    QStringLiteral("specialNotesButton"), buttons);
-    specialNotesButton_->setEnabled(listing.specialNotesEnabled);
-    connect(otherCatsButton_, &QPushButton::clicked, this,
-            [this] { openOtherCats_(this, OtherCatsMode::EarlierSpecialNotes); });
-    connect(specialNotesButton_, &QPushButton::clicked, this,
-            [this] { openOtherCats_(this, OtherCatsMode::NoteBook); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(list_, 1);
     layout->addWidget(buttons);
+    return buttons;
 }
 
 } // namespace purrlodge
