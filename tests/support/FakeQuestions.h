@@ -11,9 +11,9 @@
 #include "app/commands/CatterySetup.h"
 #include "app/commands/ChangeDataSet.h"
 #include "app/commands/ClientEntry.h"
+#include "app/commands/ClientLookup.h"
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
-#include "app/commands/ClientLookup.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 
@@ -352,8 +352,8 @@ struct ScriptedNotesQuestions : ClientNotesQuestions, ClientRemovalQuestions {
         return next(deletions);
     }
     bool confirmRemovalForGood(const std::string&) override { return next(confirmations); }
-    std::optional<PastClientChoice> chooseInPastClients(const std::string& caption,
-                                                        const std::vector<std::string>& lines) override
+    std::optional<PastClientChoice>
+    chooseInPastClients(const std::string& caption, const std::vector<std::string>& lines) override
     {
         asked.push_back(caption);
         pastLists.push_back(lines);

@@ -83,7 +83,8 @@ TEST_F(ClientNotesCommandsTest, TheNoteBookIsKeptByItsLastLineAndTheMemoAndNoteB
     makeNotes(session, questions);
     EXPECT_EQ(questions.asked, Lines{"Notes for Mrs Ann Smith"});
     EXPECT_EQ(fileBytes(temp.root() / "SMITHANN.NTS"), "Nervous of dogs\r\n\r\nFelix: drops\r\n");
-    EXPECT_EQ(readNoteBook(session.folder, "SMITHANN"), (Lines{"Nervous of dogs", "", "Felix: drops"}));
+    EXPECT_EQ(readNoteBook(session.folder, "SMITHANN"),
+              (Lines{"Nervous of dogs", "", "Felix: drops"}));
 
     for (const Lines& dropped : {Lines{"Nervous of dogs", "  "}, Lines{". . ,"}}) {
         ASSERT_TRUE(saveNoteBook(session.folder, "SMITHANN", {"kept"}));
@@ -178,7 +179,8 @@ TEST_F(ClientNotesCommandsTest, APastClientsCatsShowThreeNamesThenAPlusForEachFu
     ASSERT_TRUE(transferToPastClients(session.folder, session.index, entry));
     questions.pastChoices = {PastClientChoice{PastClientAction::Delete, 7}, std::nullopt};
     viewPastClients(session, questions);
-    EXPECT_EQ(questions.pastLists.at(0), Lines{" Many Cat\tTom,Kit,Sam,++\t2 High St,Upton,\tMANYCAT"});
+    EXPECT_EQ(questions.pastLists.at(0),
+              Lines{" Many Cat\tTom,Kit,Sam,++\t2 High St,Upton,\tMANYCAT"});
     EXPECT_EQ(fakes.ui.titles(), Lines{"Error"});
 }
 
