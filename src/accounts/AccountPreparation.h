@@ -92,8 +92,6 @@ public:
     [[nodiscard]] AccountDatesCheck alterDates(AccountPreparationForm& form, std::string arrival,
                                                std::string departure);
 
-    [[nodiscard]] const RatesRecord& rates() const { return rates_; }
-
 private:
     const RatesRecord& rates_;
     const ExchangeRateRecord& exchangeRate_;

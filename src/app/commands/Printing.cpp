@@ -1,5 +1,7 @@
 #include "app/commands/Printing.h"
 
+#include <functional>
+
 #include "accounts/FeeCalculation.h"
 #include "app/Session.h"
 #include "print/AccountPages.h"
@@ -122,23 +124,31 @@ bool printArrivalSheets(Session& session, const std::array<bool, arrivalSheetCou
         return colours.inColour[static_cast<std::size_t>(item)];
     };
 
+    // Each sheet in its order, with its colour choice, title and page routine.
+    struct Sheet {
+        ColourItem colour;
+        const char* title;
+        std::function<void()> fill;
+    };
+    PrintBuffer& buffer = session.printBuffer;
+    const Sheet sheetsInOrder[arrivalSheetCount] = {
+        {ColourItem::ArrivalSheet1, "Arrival Sheet-1",
+         [&] { fillArrivalSheet1(buffer, values, session.draw); }},
+        {ColourItem::ArrivalSheet2, "Arrival Sheet-2",
+         [&] { fillArrivalSheet2(buffer, values, session.draw); }},
+        {ColourItem::ReturnSheet, "Return Shee (3)",
+         [&] { fillReturnSheet(buffer, values, session.shell.switches.testPrintout); }},
+    };
+
     PrinterJobs printer(session.ports.printer);
     CommandJobs jobs(printer, session.printDialog);
     bool printed = true;
-    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::PenCard)]) {
-        values.inColour = inColour(ColourItem::ArrivalSheet1);
-        fillArrivalSheet1(session.printBuffer, values, session.draw);
-        printed = jobs.run("Arrival Sheet-1", session.printBuffer);
-    }
-    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::OwnersCopy)]) {
-        values.inColour = inColour(ColourItem::ArrivalSheet2);
-        fillArrivalSheet2(session.printBuffer, values, session.draw);
-        printed = jobs.run("Arrival Sheet-2", session.printBuffer);
-    }
-    if (printed && sheets[static_cast<std::size_t>(ArrivalSheet::ReturnSheet)]) {
-        values.inColour = inColour(ColourItem::ReturnSheet);
-        fillReturnSheet(session.printBuffer, values, session.shell.switches.testPrintout);
-        printed = jobs.run("Return Shee (3)", session.printBuffer);
+    for (std::size_t sheet = 0; printed && sheet < sheets.size(); ++sheet) {
+        if (!sheets[sheet])
+            continue;
+        values.inColour = inColour(sheetsInOrder[sheet].colour);
+        sheetsInOrder[sheet].fill();
+        printed = jobs.run(sheetsInOrder[sheet].title, buffer);
     }
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
     return printed;
