@@ -66,10 +66,23 @@ bool saveNoteBook(const DataFolder& folder, std::string_view code,
     return folder.replaceBytes(name, text.data(), text.size());
 }
 
+std::string memoFileText(std::string_view typed)
+{
+    std::string text;
+    for (std::size_t at = 0; at < typed.size(); ++at) {
+        if (typed[at] == '\r')
+            continue;
+        if (typed[at] == '\n')
+            text += '\r';
+        text += typed[at];
+    }
+    return text;
+}
+
 bool saveAutoMemo(const DataFolder& folder, std::string_view code, std::string_view text)
 {
     AutoMemo memo{};
-    memo.text.set(text.substr(0, autoMemoLimit));
+    memo.text.set(std::string_view(memoFileText(text)).substr(0, autoMemoLimit));
     return folder.write(clientFileName(code, extension::autoMemo), memo);
 }
 

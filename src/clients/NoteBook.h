@@ -35,8 +35,12 @@ class DataFolder;
 [[nodiscard]] bool saveNoteBook(const DataFolder& folder, std::string_view code,
                                 const std::vector<std::string>& lines);
 
-// The auto memo's text as Set Auto Memo saves it: at most 1000 characters
-// in the 1001-byte record. Whether it was written.
+// The memo as its file keeps it: every line end the two bytes CR LF, as memos
+// have always been stored, whatever the typed text ends its lines with.
+[[nodiscard]] std::string memoFileText(std::string_view typed);
+
+// The auto memo's text as Set Auto Memo saves it: its file text, at most 1000
+// characters in the 1001-byte record. Whether it was written.
 [[nodiscard]] bool saveAutoMemo(const DataFolder& folder, std::string_view code,
                                 std::string_view text);
 

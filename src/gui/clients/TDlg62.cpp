@@ -23,18 +23,10 @@ namespace {
 constexpr int memoLetters = 60;
 constexpr int memoRows = 10;
 
-// The text in 1252 bytes, each line end the two bytes CR LF.
+// The text as the memo file will keep it.
 std::string memoBytes(const QString& text)
 {
-    std::string bytes;
-    bool first = true;
-    for (const QStringView line : QStringView(text).split(u'\n')) {
-        if (!first)
-            bytes += "\r\n";
-        first = false;
-        bytes += toWindows1252(line);
-    }
-    return bytes;
+    return memoFileText(toWindows1252(text));
 }
 
 QLabel* newText(const QString& objectName, const QString& text, QWidget* parent)
