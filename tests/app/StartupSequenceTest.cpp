@@ -57,6 +57,13 @@ protected:
 
 TEST_F(StartupSequenceTest, DirectorySetupIsAskedWithoutCurrentDirOrWhenForcedAndEndsTheRun)
 {
+    // Unreadable settings end the run before anything is asked or written.
+    fake.profile.unreadableReason = "HEARTH.INI: Permission denied";
+    EXPECT_EQ(run(), Outcome(false, 1));
+    EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Settings Error"});
+    EXPECT_TRUE(questions.directorySetupSuggestions.empty() && fake.profile.writes.empty());
+
+    fake.profile.unreadableReason.reset();
     EXPECT_EQ(run(), Outcome(false, 1)); // cancelled
     EXPECT_EQ(questions.directorySetupSuggestions, std::vector<std::string>{"suggested/"});
     EXPECT_EQ(fake.profile.read("ProgDir"), std::filesystem::current_path().string());
@@ -68,15 +75,6 @@ TEST_F(StartupSequenceTest, DirectorySetupIsAskedWithoutCurrentDirOrWhenForcedAn
     questions.directorySetupAnswers.push_back(data.path() + "cats");
     EXPECT_EQ(run(), Outcome(false, 1));
     EXPECT_EQ(fake.profile.read("CurrentDir"), data.path() + "cats/");
-}
-
-TEST_F(StartupSequenceTest, UnreadableSettingsEndTheRunBeforeAnythingIsAskedOrWritten)
-{
-    fake.profile.unreadableReason = "HEARTH.INI: Permission denied";
-    EXPECT_EQ(run(), Outcome(false, 1));
-    EXPECT_EQ(fake.ui.titles(), std::vector<std::string>{"Settings Error"});
-    EXPECT_TRUE(questions.directorySetupSuggestions.empty());
-    EXPECT_TRUE(fake.profile.writes.empty());
 }
 
 TEST_F(StartupSequenceTest, AMissingIndexIsCreatedAndAForeignOneEndsTheRunUntouched)

@@ -30,30 +30,65 @@ template <class T> T next(std::deque<T>& answers, T otherwise = T{})
     return answer;
 }
 
-// A form dialog typed into from a script: each entry is one press of OK,
-// handed to the core's rule until it lets the dialog close; when the script
-// runs out first, the dialog is cancelled.
-template <class Form> struct ScriptedForm {
-    std::optional<FormVerdict> run(const Form& initial, const OkRule<Form>& onOk)
+// A form dialog typed into from a script: each entry (a whole form) or step
+// (a change to the entries as they stand) is one press of OK, handed to the
+// core's rule until it lets the dialog close; when the script runs out first,
+// the dialog is cancelled.
+template <class Form, class... Extra> struct ScriptedForm {
+    using Step = std::function<void(Form&, Extra&...)>;
+
+    std::optional<FormVerdict> run(Form form, const OkRule<Form>& onOk, Extra&... extra)
     {
-        shown.push_back(initial);
-        while (!entries.empty()) {
+        shown.push_back(form);
+        while (!entries.empty() || !steps.empty()) {
             if (beforeOk)
                 beforeOk(verdicts.size());
-            const FormVerdict verdict = onOk(next(entries));
-            verdicts.push_back(verdict);
-            if (verdict != FormVerdict::StayOpen)
-                return verdict;
+            if (!entries.empty())
+                form = next(entries);
+            else
+                next(steps)(form, extra...);
+            verdicts.push_back(onOk(form));
+            if (verdicts.back() != FormVerdict::StayOpen)
+                return verdicts.back();
         }
         return std::nullopt;
     }
 
     std::deque<Form> entries;          // typed before each OK
+    std::deque<Step> steps;            // or changes made before each OK
     std::vector<Form> shown;           // what each opening showed
     std::vector<FormVerdict> verdicts; // what each OK came to
     // Runs before each OK with the number of OKs pressed so far: a fault can
     // be made or put right between two presses.
     std::function<void(std::size_t)> beforeOk;
+};
+
+// The client finder answered from scripts, for every interface that asks it;
+// records what was asked.
+template <class... Questions> struct ScriptedFinder : Questions... {
+    std::optional<FinderEntry> askClientName(const FinderOptions&,
+                                             const FinderEntry& shown) override
+    {
+        namesShown.push_back(shown);
+        return next(names);
+    }
+    std::optional<int> chooseMatch(const FinderResult& result) override
+    {
+        matchRows.push_back(result.rows);
+        return next(matches);
+    }
+
+    // The name typed, then the row chosen among its matches.
+    void choose(std::string name, int row = 0)
+    {
+        names = {FinderEntry{std::move(name)}};
+        matches = {row};
+    }
+
+    std::deque<std::optional<FinderEntry>> names;
+    std::deque<std::optional<int>> matches;
+    std::vector<FinderEntry> namesShown;
+    std::vector<std::vector<std::string>> matchRows;
 };
 
 // The set-up questions answered from scripts.
@@ -63,11 +98,7 @@ struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, Catter
         directorySetupSuggestions.push_back(suggestion);
         return next(directorySetupAnswers);
     }
-    bool askDirectoryCheck() override
-    {
-        ++directoryChecksAsked;
-        return next(directoryCheckAnswers);
-    }
+    bool askDirectoryCheck() override { return next(directoryCheckAnswers); }
     bool askNewDirectory(const std::string& folder) override
     {
         newDirectoriesAsked.push_back(folder);
@@ -109,7 +140,6 @@ struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, Catter
     std::deque<std::optional<std::string>> directorySetupAnswers;
     std::vector<std::string> directorySetupSuggestions;
     std::deque<bool> directoryCheckAnswers;
-    int directoryChecksAsked = 0;
     std::deque<bool> newDirectoryAnswers;
     std::vector<std::string> newDirectoriesAsked;
     ScriptedForm<std::string> changeDataSource;
@@ -122,20 +152,7 @@ struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, Catter
 };
 
 // The client commands' questions answered from scripts; records what was asked.
-struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
-    std::optional<FinderEntry> askClientName(const FinderOptions& options,
-                                             const FinderEntry& shown) override
-    {
-        finderOptions.push_back(options);
-        namesShown.push_back(shown);
-        return next(names);
-    }
-    std::optional<int> chooseMatch(const FinderResult& result) override
-    {
-        matchRows.push_back(result.rows);
-        return next(matches);
-    }
-
+struct ScriptedClientQuestions : ScriptedFinder<ClientEntryQuestions, ClientLookupQuestions> {
     std::optional<FormVerdict> fillClientForm(const ClientForm& initial,
                                               const OkRule<ClientForm>& onOk) override
     {
@@ -179,12 +196,6 @@ struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
             showDetails(result.lines.at(line));
     }
 
-    std::deque<std::optional<FinderEntry>> names;
-    std::vector<FinderOptions> finderOptions;
-    std::vector<FinderEntry> namesShown;
-    std::deque<std::optional<int>> matches;
-    std::vector<std::vector<std::string>> matchRows;
-
     ScriptedForm<ClientForm> clientForm;
     bool surnameYes = false;
     int surnameAlerts = 0;
@@ -204,35 +215,19 @@ struct ScriptedClientQuestions : ClientEntryQuestions, ClientLookupQuestions {
 
 // The account and arrival commands' questions answered from scripts; records
 // what was asked.
-struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, ArrivalQuestions {
-    using Typing = std::function<void(AccountPreparationForm&, AccountPreparation&)>;
-
-    std::optional<FinderEntry> askClientName(const FinderOptions&, const FinderEntry&) override
-    {
-        return next(names);
-    }
-    std::optional<int> chooseMatch(const FinderResult&) override { return next(matches); }
+struct ScriptedAccountQuestions
+    : ScriptedFinder<IssueAccountQuestions, PastAccountsQuestions, ArrivalQuestions> {
 
     bool askToDeleteAutoMemo(const std::string& caption, const std::string& memo) override
     {
         asked.push_back(caption + ": " + memo);
         return deleteMemo;
     }
-    // Account Preparation: each entry of `typing` changes the entries as they
-    // stand and presses OK; when the script runs out the dialog is cancelled.
     std::optional<FormVerdict>
     fillAccountPreparation(const AccountPreparationForm& initial, AccountPreparation& preparation,
                            const OkRule<AccountPreparationForm>& onOk) override
     {
-        opened.push_back(initial);
-        AccountPreparationForm form = initial;
-        while (!typing.empty()) {
-            next(typing)(form, preparation);
-            verdicts.push_back(onOk(form));
-            if (verdicts.back() != FormVerdict::StayOpen)
-                return verdicts.back();
-        }
-        return std::nullopt;
+        return preparing.run(initial, onOk, preparation);
     }
     void showApparentDateError(const DateWarning& warning) override
     {
@@ -272,23 +267,11 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, 
         found.push_back(lines);
     }
 
-    // The arrival form: each entry changes the entries as they stand and
-    // presses OK; `pressRegister` presses "Admission Register" first.
     std::optional<FormVerdict> fillArrivalForm(const ArrivalForm& initial, const RatesRecord&,
                                                const OkRule<ArrivalForm>& onOk,
-                                               const std::function<void()>& printRegister) override
+                                               const std::function<void()>&) override
     {
-        arrivalOpened.push_back(initial);
-        if (pressRegister)
-            printRegister();
-        ArrivalForm form = initial;
-        while (!arrivalTyping.empty()) {
-            next(arrivalTyping)(form);
-            verdicts.push_back(onOk(form));
-            if (verdicts.back() != FormVerdict::StayOpen)
-                return verdicts.back();
-        }
-        return std::nullopt;
+        return arrival.run(initial, onOk);
     }
     std::optional<FormVerdict> fillRegisterPeriod(const RegisterPeriod& initial,
                                                   const OkRule<RegisterPeriod>& onOk) override
@@ -297,17 +280,11 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, 
         return period.run(initial, onOk);
     }
 
-    std::deque<std::optional<FinderEntry>> names;
-    std::deque<std::optional<int>> matches;
     bool deleteMemo = false;
-    std::deque<std::function<void(ArrivalForm&)>> arrivalTyping;
-    std::vector<ArrivalForm> arrivalOpened;
-    bool pressRegister = false;
+    ScriptedForm<ArrivalForm> arrival;
     std::vector<std::string> periodsShown;
     ScriptedForm<RegisterPeriod> period;
-    std::deque<Typing> typing;
-    std::vector<AccountPreparationForm> opened;
-    std::vector<FormVerdict> verdicts;
+    ScriptedForm<AccountPreparationForm, AccountPreparation> preparing;
     std::deque<bool> longStayRight;
     std::deque<SimilarAccountAnswer> similarAnswers;
     std::vector<std::string> asked;
@@ -321,13 +298,7 @@ struct ScriptedAccountQuestions : IssueAccountQuestions, PastAccountsQuestions, 
 };
 
 // The notes and removal commands' questions answered from scripts.
-struct ScriptedNotesQuestions : ClientNotesQuestions, ClientRemovalQuestions {
-    std::optional<FinderEntry> askClientName(const FinderOptions&, const FinderEntry&) override
-    {
-        return next(names);
-    }
-    std::optional<int> chooseMatch(const FinderResult&) override { return next(matches); }
-
+struct ScriptedNotesQuestions : ScriptedFinder<ClientNotesQuestions, ClientRemovalQuestions> {
     std::optional<FormVerdict> fillNoteBook(const std::string& heading,
                                             const std::vector<std::string>& lines,
                                             const OkRule<std::vector<std::string>>& onOk) override
@@ -364,8 +335,6 @@ struct ScriptedNotesQuestions : ClientNotesQuestions, ClientRemovalQuestions {
         detailsShown.push_back(listing);
     }
 
-    std::deque<std::optional<FinderEntry>> names;
-    std::deque<std::optional<int>> matches;
     ScriptedForm<std::vector<std::string>> noteBook;
     ScriptedForm<std::string> autoMemo;
     ScriptedForm<std::string> accountNote;

@@ -23,7 +23,7 @@ namespace {
 using Job = testing::FakePrinter::Job;
 using Jobs = std::vector<Job>;
 using Lines = std::vector<std::string>;
-using Typing = testing::ScriptedAccountQuestions::Typing;
+using Typing = testing::ScriptedForm<AccountPreparationForm, AccountPreparation>::Step;
 
 const std::string code = "SMITHANN";
 
@@ -67,9 +67,8 @@ protected:
 
     void issue(std::deque<Typing> typing)
     {
-        questions.names = {FinderEntry{"Smith"}};
-        questions.matches = {0};
-        questions.typing = std::move(typing);
+        questions.choose("Smith");
+        questions.preparing.steps = std::move(typing);
         issueAccount(session, questions);
     }
 
@@ -142,21 +141,18 @@ TEST_F(AccountCommandsTest, AnAccountIsPreparedFromTheStayNumberedPrintedFiledAn
     questions.deleteMemo = true;
 
     issue({pressOk});
-    ASSERT_EQ(questions.opened.size(), 1u);
-    const AccountPreparationForm& opened = questions.opened[0];
-    EXPECT_EQ(opened.clientLine, "Mrs Ann Smith");
-    EXPECT_EQ(opened.arrival + "-" + opened.departure, "01/03/25-05/03/25");
-    EXPECT_EQ(opened.receiptNumber, "1042");
+    ASSERT_EQ(questions.preparing.shown.size(), 1u);
+    const AccountPreparationForm& opened = questions.preparing.shown[0];
+    EXPECT_EQ(opened.arrival + "-" + opened.departure + " " + opened.receiptNumber,
+              "01/03/25-05/03/25 1042");
     EXPECT_TRUE(opened.cats[0].ticked && opened.cats[1].ticked && !opened.cats[2].ticked);
-    EXPECT_TRUE(opened.catShown[2] && !opened.catShown[3]);
     EXPECT_EQ(questions.asked, Lines{"An Auto Memo exists for Ann Smith: Bring her blanket back"});
     EXPECT_FALSE(session.folder.exists(code + ".ANT")) << "Delete removes the memo";
 
     EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Client's Account", false}, {"Account Copy", false}}));
     const AccountRecord& filed = book().accounts[9];
     EXPECT_EQ(filed.receiptNumber.get(), 1042);
-    EXPECT_EQ(filed.catsBoarded.get(), 2);
-    EXPECT_EQ(filed.grossBoard.get(), 90.0f) << "5 days at 18.00";
+    EXPECT_EQ(filed.grossBoard.get(), 90.0f) << "two cats, 5 days at 18.00";
     EXPECT_EQ(filed.filedTime.get(), fakes.clock.now());
     EXPECT_EQ(counterOnDisc(), 1042);
     ClientRecord client{};
@@ -203,7 +199,7 @@ TEST_F(AccountCommandsTest, EachAnswerToASimilarAccountNumbersAndCountsAsItSays)
     EXPECT_EQ(counterOnDisc(), 1042);
 }
 
-TEST_F(AccountCommandsTest, PrintingThatDoesNotHappenAtEitherPageFilesNothing)
+TEST_F(AccountCommandsTest, UnprintedPagesFileNothingButOmittedOnesFileTheAccount)
 {
     for (const auto& outcomes :
          {std::deque<PrintOutcome>{PrintOutcome::Cancelled},
@@ -214,10 +210,8 @@ TEST_F(AccountCommandsTest, PrintingThatDoesNotHappenAtEitherPageFilesNothing)
         EXPECT_FALSE(session.folder.exists(code + ".ACR"));
         EXPECT_EQ(counterOnDisc(), 1041);
     }
-}
-
-TEST_F(AccountCommandsTest, OmittedPagesAreNotPrintedAndTheCopyAloneMayAskForThePrinter)
-{
+    // The copy alone may ask for the printer.
+    fakes.printer.jobs.clear();
     session.printDialog.modeInForce = printDialogEveryTime;
     issue({[](AccountPreparationForm& form, AccountPreparation&) { form.omitTopSheet = true; }});
     EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Account Copy", true}}));
@@ -261,8 +255,8 @@ TEST_F(AccountCommandsTest, OkChecksTheExtraTheNumberTheCatsAndTheDatesInTurn)
     EXPECT_EQ(questions.asked,
               (Lines{"The date does not exist in that month ! / Arrival/Start date",
                      "More than 3 weeks?", "More than 3 weeks?"}));
-    EXPECT_EQ(questions.verdicts.back(), FormVerdict::Accept);
-    EXPECT_EQ(questions.verdicts.size(), 6u);
+    EXPECT_EQ(questions.preparing.verdicts.size(), 6u);
+    EXPECT_EQ(questions.preparing.verdicts.back(), FormVerdict::Accept);
 
     const AccountRecord& filed = book().accounts[9];
     EXPECT_EQ(filed.receiptNumber.get(), 777) << "kept as typed";
@@ -278,7 +272,8 @@ TEST_F(AccountCommandsTest, AFailedSaveIsToldAndNothingIsClaimedThatTheDiscDoesN
                unblockWritesOf(code + ".DAT");
                blockWritesOf(code + ".ACR");
            }});
-    EXPECT_EQ(questions.verdicts, (std::vector{FormVerdict::StayOpen, FormVerdict::Accept}));
+    EXPECT_EQ(questions.preparing.verdicts,
+              (std::vector{FormVerdict::StayOpen, FormVerdict::Accept}));
     EXPECT_EQ(fakes.ui.titles(), (Lines{"File Error", "File Error"}));
     EXPECT_FALSE(session.folder.exists(code + ".ACR"));
     EXPECT_EQ(counterOnDisc(), 1041) << "the account is not filed, so not counted";
@@ -295,8 +290,7 @@ TEST_F(AccountCommandsTest, PastAccountsAreSummarisedReprintedAndDeleted)
     fileAccount(1001, "01/01/25", "03/01/25");
     fileAccount(1002, "01/02/25", "03/02/25");
     fileAccount(1003, "01/03/25", "03/03/25");
-    questions.names = {FinderEntry{"Smith"}};
-    questions.matches = {0};
+    questions.choose("Smith");
     questions.listChoices = {PastAccountChoice{PastAccountAction::Summary, 3}, // the blank line
                              PastAccountChoice{PastAccountAction::Summary, 0},
                              PastAccountChoice{PastAccountAction::Reprint, 1},
@@ -347,8 +341,7 @@ TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount
     ASSERT_TRUE(session.folder.write(code + ".ANT", memo));
     session.printDialog.modeInForce = printDialogEveryTime;
     fakes.profile.values["arrsheets"] = "123";
-    questions.names = {FinderEntry{"Smith"}};
-    questions.matches = {0};
+    questions.choose("Smith");
     questions.longStayRight = {false};
     const auto dates = [](std::string arrival, std::string departure) {
         return [=](ArrivalForm& form) {
@@ -356,7 +349,7 @@ TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount
             form.departure = departure;
         };
     };
-    questions.arrivalTyping = {
+    questions.arrival.steps = {
         dates("1/4", "05/04/25"),
         dates("31/04/25", "05/04/25"),
         dates("06/04/25", "05/04/25"),
@@ -381,7 +374,7 @@ TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount
                "The date does not exist in that month ! / Arrival/Start date",
                "Departing/Starting before arrival! / Departure/End date", "More than 3 weeks?"}));
     EXPECT_EQ(fakes.ui.titles(), Lines{"Names no Ticked"});
-    EXPECT_TRUE(questions.arrivalOpened.at(0).arrival.empty()) << "the last stay is over";
+    EXPECT_TRUE(questions.arrival.shown.at(0).arrival.empty()) << "the last stay is over";
     EXPECT_EQ(fakes.printer.jobs, (Jobs{{"Arrival Sheet-2", true}, {"Return Shee (3)", false}}));
     EXPECT_EQ(fakes.profile.read(arrivalSheetsKey), "23");
     StayRecord stay{};
@@ -392,7 +385,7 @@ TEST_F(AccountCommandsTest, ABookedStayIsCheckedSavedPrintedAndFoundByTheAccount
     // Issue Account finds the dates and the cats.
     questions.asked.clear();
     issue({pressOk});
-    const AccountPreparationForm& account = questions.opened.at(0);
+    const AccountPreparationForm& account = questions.preparing.shown.at(0);
     EXPECT_EQ(account.arrival + "-" + account.departure, "01/04/25-05/04/25");
     EXPECT_TRUE(account.cats[0].ticked && !account.cats[1].ticked && account.cats[2].ticked);
 }
@@ -401,9 +394,8 @@ TEST_F(AccountCommandsTest, TheArrivalSheetsAskForThePrinterOnceAndStopWhenOneDo
 {
     session.printDialog.modeInForce = printDialogEveryTime;
     fakes.printer.outcomes = {PrintOutcome::Printed, PrintOutcome::Cancelled};
-    questions.names = {FinderEntry{"Smith"}};
-    questions.matches = {0};
-    questions.arrivalTyping = {[](ArrivalForm& form) {
+    questions.choose("Smith");
+    questions.arrival.steps = {[](ArrivalForm& form) {
         form.arrival = "01/04/25";
         form.departure = "05/04/25";
     }};

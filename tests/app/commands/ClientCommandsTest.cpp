@@ -51,7 +51,7 @@ protected:
     testing::ScriptedClientQuestions questions;
 };
 
-TEST_F(ClientCommandsTest, ARefusedNameIsAskedAgainAsTypedAndCancelLeavesTheSession)
+TEST_F(ClientCommandsTest, ARefusedNameIsAskedAgainCancelLeavesTheSessionAndKeywordsEndIt)
 {
     addClient("Wood", "WoodAnne");
     session.client.surname.set("Current");
@@ -70,15 +70,14 @@ TEST_F(ClientCommandsTest, ARefusedNameIsAskedAgainAsTypedAndCancelLeavesTheSess
     EXPECT_TRUE(finderOptionsFor(command::editClientDetails).anyFirstCharacter);
     const FinderOptions ordinary = finderOptionsFor(command::seeClientDetails);
     EXPECT_FALSE(ordinary.catOnly || ordinary.anyFirstCharacter);
-}
 
-TEST_F(ClientCommandsTest, TheInspectModeKeywordsSwitchDiagnosticsAndEndTheFinder)
-{
+    // The inspect mode keywords switch diagnostics and end the finder.
+    fakes.ui.messages.clear();
     EXPECT_EQ(find({FinderEntry{"InspectModeOn"}}), std::nullopt);
     EXPECT_TRUE(session.diagnostics);
     EXPECT_EQ(find({FinderEntry{"InspectModeOff"}}), std::nullopt);
     EXPECT_FALSE(session.diagnostics);
-    EXPECT_TRUE(questions.matchRows.empty() && fakes.ui.messages.empty());
+    EXPECT_TRUE(questions.matchRows.size() == 1 && fakes.ui.messages.empty());
 }
 
 TEST_F(ClientCommandsTest, TooManyMatchesIsShownAndTheChosenClientComesWithItsStay)
@@ -111,8 +110,7 @@ TEST_F(ClientCommandsTest, NewClientAndEditClientDetailsSaveTheFormOverTheSessio
     session.client = ClientRecord{};
     editClientDetails(session, questions);
     EXPECT_EQ(questions.clientForm.shown.size(), 1U) << "the finder was cancelled";
-    questions.names = {FinderEntry{"Adams"}};
-    questions.matches = {0};
+    questions.choose("Adams");
     ClientForm edited = opened;
     edited.style = "Dr";
     questions.clientForm.entries = {edited};
@@ -140,8 +138,7 @@ TEST_F(ClientCommandsTest, AClientIsSavedUnderItsIndexCodeAndNeverWhereTheIndexC
     ASSERT_TRUE(writeClientRecord(session.folder, "SmithAnn", anne));
     const std::string bob = fileBytes(temp.root() / "AdamsBob.DAT");
 
-    questions.names = {FinderEntry{"Smith"}};
-    questions.matches = {0};
+    questions.choose("Smith");
     ClientForm edited = clientFormFrom(anne, fakes.clock);
     edited.firstName = "Anne";
     edited.known = "2";
@@ -160,8 +157,7 @@ TEST_F(ClientCommandsTest, AClientIsSavedUnderItsIndexCodeAndNeverWhereTheIndexC
     const std::string current = bytesOf(session.client);
     for (const int row : {0, 1}) {
         fakes.ui.messages.clear();
-        questions.names = {FinderEntry{"Cole"}};
-        questions.matches = {row};
+        questions.choose("Cole", row);
         questions.clientForm.entries = {edited};
         const std::size_t formsShown = questions.clientForm.shown.size();
         editClientDetails(session, questions);
@@ -186,8 +182,7 @@ TEST_F(ClientCommandsTest, LookUpsShowTheFilesOfTheCodeFoundAndGlobalSearchChoos
     globalSearch(session, questions);
     EXPECT_TRUE(questions.detailsShown.empty() && questions.results.empty()) << "cancelled";
 
-    questions.names = {FinderEntry{"Smith"}};
-    questions.matches = {0};
+    questions.choose("Smith");
     seeClientDetails(session, questions);
     ASSERT_EQ(questions.detailsShown.size(), 1U);
     EXPECT_EQ(questions.detailsShown[0].lines[0], "  Smith");

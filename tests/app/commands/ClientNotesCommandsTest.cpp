@@ -50,13 +50,6 @@ protected:
         appendEntry(session.index, surname, code);
     }
 
-    // The finder answered with the one match of the name.
-    void find(const char* name)
-    {
-        questions.names = {FinderEntry{name}};
-        questions.matches = {0};
-    }
-
     [[nodiscard]] Lines files() const
     {
         Lines names;
@@ -78,7 +71,7 @@ protected:
 
 TEST_F(ClientNotesCommandsTest, TheNoteBookIsKeptByItsLastLineAndTheMemoAndNoteByTheirLimits)
 {
-    find("Smith");
+    questions.choose("Smith");
     questions.noteBook.entries = {{"Nervous of dogs", "", "Felix: drops"}};
     makeNotes(session, questions);
     EXPECT_EQ(questions.asked, Lines{"Notes for Mrs Ann Smith"});
@@ -92,7 +85,7 @@ TEST_F(ClientNotesCommandsTest, TheNoteBookIsKeptByItsLastLineAndTheMemoAndNoteB
         EXPECT_FALSE(session.folder.exists("SMITHANN.NTS")) << dropped.front();
     }
 
-    find("Smith");
+    questions.choose("Smith");
     const std::string thousand(autoMemoLimit, 'm');
     questions.autoMemo.entries = {thousand + "xyz"};
     setAutoMemo(session, questions);
@@ -110,7 +103,7 @@ TEST_F(ClientNotesCommandsTest, TheNoteBookIsKeptByItsLastLineAndTheMemoAndNoteB
 TEST_F(ClientNotesCommandsTest, RemovingForGoodTakesEveryFileOfTheCodeAndNoOther)
 {
     const std::string before = indexBytes("FIDEX.CTL");
-    find("Smith");
+    questions.choose("Smith");
     questions.deletions = {ClientDeletionChoice::RemoveForGood};
     questions.confirmations = {false};
     deleteClient(session, questions);
@@ -118,7 +111,7 @@ TEST_F(ClientNotesCommandsTest, RemovingForGoodTakesEveryFileOfTheCodeAndNoOther
     EXPECT_EQ(questions.asked.at(0), "You can completely remove all files relating to Mrs Ann "
                                      "Smith\nor\ntransfer them to your 'Old Client' file");
 
-    find("Smith");
+    questions.choose("Smith");
     questions.deletions = {ClientDeletionChoice::RemoveForGood};
     questions.confirmations = {true};
     deleteClient(session, questions);
@@ -131,7 +124,7 @@ TEST_F(ClientNotesCommandsTest, RemovingForGoodTakesEveryFileOfTheCodeAndNoOther
 TEST_F(ClientNotesCommandsTest, PastClientsAreListedRestoredMovedBackAndDeleted)
 {
     ClientIndex past{};
-    find("Smith");
+    questions.choose("Smith");
     questions.deletions = {ClientDeletionChoice::Transfer};
     deleteClient(session, questions);
     ASSERT_TRUE(readStoredPastIndex(session.folder, past));
@@ -152,7 +145,7 @@ TEST_F(ClientNotesCommandsTest, PastClientsAreListedRestoredMovedBackAndDeleted)
     EXPECT_EQ(questions.detailsShown.at(0).caption, "Detais of Previous Client Mrs Ann Smith");
     EXPECT_NE(findCode(session.index, "SMITHANN"), -1);
 
-    find("Smith");
+    questions.choose("Smith");
     questions.deletions = {ClientDeletionChoice::Transfer};
     deleteClient(session, questions);
     EXPECT_EQ(indexBytes("FIDEX.CTL"), currentAfterTransfer) << "restore then transfer";
