@@ -91,6 +91,9 @@ TEST_F(ClientNotesCommandsTest, TheNoteBookIsKeptByItsLastLineAndTheMemoAndNoteB
     setAutoMemo(session, questions);
     EXPECT_EQ(session.folder.fileSize("SMITHANN.ANT"), 1001u);
     EXPECT_EQ(readAutoMemo(session.folder, "SMITHANN"), thousand);
+    ASSERT_TRUE(saveAutoMemo(session.folder, "SMITHANN", "Drops\nBlanket\r\n"));
+    EXPECT_EQ(readAutoMemo(session.folder, "SMITHANN"), "Drops\r\nBlanket\r\n")
+        << "line ends kept as CR LF";
 
     questions.accountNote.entries = {std::string(accountNoteLimit, 'n') + "cut"};
     setAccountNote(session, questions);
