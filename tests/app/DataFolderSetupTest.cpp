@@ -1,4 +1,5 @@
 #include "app/DataFolderSetup.h"
+#include "store/FolderTools.h"
 
 #include <filesystem>
 #include <fstream>
