@@ -5,6 +5,10 @@
 #include <system_error>
 #include <utility>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 #include "ports/Profile.h"
 #include "store/DataFolder.h"
 #include "store/TextHelpers.h"
@@ -40,6 +44,25 @@ std::optional<std::uint64_t> ProfileDrives::freeBytes(const std::string& folder)
     if (error)
         return std::nullopt;
     return static_cast<std::uint64_t>(space.available);
+}
+
+bool ProfileDrives::isOwnMount(const std::string& folder) const
+{
+    std::string trimmed = folder;
+    while (trimmed.size() > 1 && isFolderSeparator(trimmed.back()))
+        trimmed.pop_back();
+#ifdef _WIN32
+    return trimmed.size() == 2 && trimmed[1] == ':';
+#else
+    struct stat self {};
+    struct stat parent {};
+    if (trimmed.empty() || ::stat(nativePath(trimmed).c_str(), &self) != 0 ||
+        ::stat(nativePath(trimmed + "/..").c_str(), &parent) != 0 || !S_ISDIR(self.st_mode))
+        return false;
+    // A mount point sits on another device than its parent; the root of
+    // everything is its own parent.
+    return self.st_dev != parent.st_dev || self.st_ino == parent.st_ino;
+#endif
 }
 
 std::string userHomeFolder()

@@ -24,6 +24,10 @@ public:
     // The bytes free to this user on the file system that holds the folder.
     [[nodiscard]] std::optional<std::uint64_t> freeBytes(const std::string& folder) const override;
 
+    // A drive's root on Windows; elsewhere a folder on another device than
+    // the folder holding it.
+    [[nodiscard]] bool isOwnMount(const std::string& folder) const override;
+
 private:
     const Profile& profile_;
     std::string homeFolder_;

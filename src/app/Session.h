@@ -59,6 +59,10 @@ public:
     // The calendar year, taken once at start-up.
     int currentYear = 1970;
 
+    // The floppy discs asked for by backups in this run; the next disc is
+    // one more, from one backup to the next.
+    int backupDiscNumber = 0;
+
     // The hidden diagnostic mode: switched by keywords typed into the client
     // finder, it makes account preparation report its stages. Never saved.
     bool diagnostics = false;

@@ -241,4 +241,28 @@ StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
     return {};
 }
 
+void reloadDataSet(Session& session)
+{
+    session.client = {};
+    session.clientCode.clear();
+    session.stay = {};
+    session.account = {};
+    session.index = {};
+    openClientIndex(session);
+    if (checkClientIndexes(session)) {
+        sortIndexEntries(session.index);
+        static_cast<void>(writeIndex(session.folder, session.index));
+    } else {
+        sortIndexEntries(session.index);
+    }
+    loadRates(session.folder, session.rates);
+    loadColourBlock(session.folder, session.colourBlock);
+    loadEstablishment(session.folder, session.establishment);
+    if (session.rates.inSterling())
+        loadExchangeRate(session.folder, session.exchangeRate);
+    if (const std::optional<int> typeSize = managerTypeSizeOf(session.establishment))
+        session.shell.managerTypeSize = *typeSize;
+    session.shell.ratesUsable = ratesUsable(session.rates);
+}
+
 } // namespace purrlodge

@@ -41,4 +41,9 @@ struct StartupOutcome {
 StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
                                   const std::string& suggestedDataFolder);
 
+// Reads the data set afresh after its files were replaced (a restore): no
+// client is current any more; the client index is read, repaired, sorted and
+// written back as at start-up, and the cattery's files are read again.
+void reloadDataSet(Session& session);
+
 } // namespace purrlodge

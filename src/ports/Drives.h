@@ -18,6 +18,10 @@ public:
     // Free bytes on the file system holding the folder, or nothing when unknown.
     [[nodiscard]] virtual std::optional<std::uint64_t>
     freeBytes(const std::string& folder) const = 0;
+
+    // Whether the folder is the root of a file system of its own (a disc or
+    // memory stick mounted there), so clearing it touches nothing else.
+    [[nodiscard]] virtual bool isOwnMount(const std::string& folder) const = 0;
 };
 
 } // namespace purrlodge

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cctype>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -94,12 +95,28 @@ struct FakeProfile : Profile {
 };
 
 // No drives and no printer: nothing in the core asks for them.
+// Drive letters mapped to folders by the test; free space is scripted, one
+// reading per call, the last reading repeating.
 struct FakeDrives : Drives {
-    [[nodiscard]] std::optional<std::string> rootOf(char) const override { return {}; }
+    [[nodiscard]] std::optional<std::string> rootOf(char letter) const override
+    {
+        const auto found = roots.find(static_cast<char>(std::toupper(letter)));
+        return found == roots.end() ? std::nullopt : std::optional<std::string>(found->second);
+    }
     [[nodiscard]] std::optional<std::uint64_t> freeBytes(const std::string&) const override
     {
-        return {};
+        if (freeReadings.empty())
+            return freeSpace;
+        freeSpace = freeReadings.front();
+        freeReadings.pop_front();
+        return freeSpace;
     }
+    [[nodiscard]] bool isOwnMount(const std::string&) const override { return ownMount; }
+
+    std::map<char, std::string> roots;
+    mutable std::deque<std::optional<std::uint64_t>> freeReadings;
+    mutable std::optional<std::uint64_t> freeSpace;
+    bool ownMount = true;
 };
 
 // A printer that records every job and answers from a script (Printed once
