@@ -31,6 +31,20 @@ TEST(NameCountTable, SortsByCountWithEqualCountsInTheOrderFirstMet)
     EXPECT_EQ(popListNames(table), (std::vector<PopListName>{{"Cy", 3}, {"Bo", 2}, {"Al", 2}}));
 }
 
+TEST(NameCountTable, ManyEqualCountsStayInTheOrderFirstMet)
+{
+    NameCountTable table;
+    std::vector<PopListName> expected{{"Zed", 2}};
+    for (int i = 0; i < 50; ++i) {
+        table.add("N" + std::to_string(49 - i));
+        expected.push_back({"N" + std::to_string(49 - i), 1});
+    }
+    table.add("Zed");
+    table.add("Zed");
+    table.sortByCount();
+    EXPECT_EQ(table.entries(), expected);
+}
+
 TEST(NameCountTable, HoldsSixHundredNamesAndCountsNoNewOneAfter)
 {
     NameCountTable table;
