@@ -39,55 +39,36 @@ std::vector<PopListName> namesCounted(int howMany)
     return names;
 }
 
-TEST(PopList, ANameLineIsTheNameAndTheCountFromTheSixteenthColumn)
-{
-    EXPECT_EQ(popListLine({"Tom", 3}), "Tom            3        ");
-    EXPECT_EQ(popListLine({"Mittens", 125}), "Mittens        125      ");
-    EXPECT_EQ(popListLine({"Twelve chars", 2}).size(), 24u);
-}
-
-TEST(PopList, ThirtyNamesMakeOnePageAndTheThirtyFirstASecond)
-{
-    PrintBuffer buffer;
-    PageRecorder jobs;
-    EXPECT_EQ(printPopList(buffer, namesCounted(30), 30, jobs), 1);
-    ASSERT_EQ(jobs.pages.size(), 1u);
-    const PageRecorder::Page& page = jobs.pages[0];
-    EXPECT_EQ(page.title, "pop list");
-    EXPECT_FALSE(page.prompt);
-    ASSERT_EQ(page.texts.size(), 33u);
-    EXPECT_EQ(Lines(page.texts.begin(), page.texts.begin() + 4),
-              (Lines{" ", "The 30 cats whose name occurs more than once", " ",
-                     "Cat0           40       "}));
-    EXPECT_EQ(Lines(page.formats.begin(), page.formats.begin() + 4),
-              (Lines{"1, 4, 0, 1, n, 000, A", "3, 4, 0, 1, n, 000, A", "3, 4, 0, 1, n, 000, A",
-                     "3b, 4, 0, 1, n, 000, A"}));
-    EXPECT_EQ(page.texts.back(), "Cat29          11       ");
-    EXPECT_EQ(buffer.count, 0) << "cleared after the page";
-
-    jobs.pages.clear();
-    EXPECT_EQ(printPopList(buffer, namesCounted(31), 31, jobs), 2);
-    ASSERT_EQ(jobs.pages.size(), 2u);
-    EXPECT_EQ(jobs.pages[0].texts.size(), 33u);
-    EXPECT_EQ(jobs.pages[1].texts, (Lines{" ", "The 31 cats whose name occurs more than once", " ",
-                                          "Cat30          10       "}));
-}
-
-TEST(PopList, TheFirstPageFollowsWhatTheBufferHeldAndNoNamesPrintNothing)
+TEST(PopList, ThirtyNamesAPageTheFirstFollowingWhatTheBufferHeld)
 {
     PrintBuffer buffer;
     buffer.add("Left by the last printout", "0b, 20, 150, 2, n, 000, C");
     PageRecorder jobs;
     EXPECT_EQ(printPopList(buffer, {}, 0, jobs), 0);
-    EXPECT_TRUE(jobs.pages.empty());
-    EXPECT_EQ(buffer.count, 1) << "no page, nothing cleared";
+    EXPECT_TRUE(jobs.pages.empty()) << "no names, no page";
 
-    printPopList(buffer, namesCounted(31), 31, jobs);
-    ASSERT_EQ(jobs.pages.size(), 2u);
-    EXPECT_EQ(jobs.pages[0].texts.size(), 34u);
-    EXPECT_EQ(jobs.pages[0].texts[0], "Left by the last printout");
-    EXPECT_EQ(jobs.pages[0].texts[1], " ");
-    EXPECT_EQ(jobs.pages[1].texts.size(), 4u) << "the second page starts on a clear buffer";
+    EXPECT_EQ(printPopList(buffer, namesCounted(30), 30, jobs), 1);
+    ASSERT_EQ(jobs.pages.size(), 1u);
+    const PageRecorder::Page& page = jobs.pages[0];
+    EXPECT_EQ(page.title, "pop list");
+    EXPECT_FALSE(page.prompt);
+    ASSERT_EQ(page.texts.size(), 34u);
+    EXPECT_EQ(
+        Lines(page.texts.begin(), page.texts.begin() + 5),
+        (Lines{"Left by the last printout", " ", "The 30 cats whose name occurs more than once",
+               " ", "Cat0           40       "}));
+    EXPECT_EQ(Lines(page.formats.begin() + 1, page.formats.begin() + 5),
+              (Lines{"1, 4, 0, 1, n, 000, A", "3, 4, 0, 1, n, 000, A", "3, 4, 0, 1, n, 000, A",
+                     "3b, 4, 0, 1, n, 000, A"}));
+    EXPECT_EQ(page.texts.back(), "Cat29          11       ");
+    EXPECT_EQ(popListLine({"Mittens", 125}), "Mittens        125      ");
+    EXPECT_EQ(buffer.count, 0) << "cleared after the page";
+
+    EXPECT_EQ(printPopList(buffer, namesCounted(31), 31, jobs), 2);
+    ASSERT_EQ(jobs.pages.size(), 3u);
+    EXPECT_EQ(jobs.pages[1].texts.size(), 33u);
+    EXPECT_EQ(jobs.pages[2].texts, (Lines{" ", "The 31 cats whose name occurs more than once", " ",
+                                          "Cat30          10       "}));
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -7,7 +6,6 @@
 #include "store/ClientFiles.h"
 #include "store/IndexOperations.h"
 #include "support/Bytes.h"
-#include "support/DataSetGenerator.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
@@ -18,29 +16,61 @@ namespace {
 using Lines = std::vector<std::string>;
 using testing::fileBytes;
 
-// Two current clients whose cats share one name; the questions answered from
-// scripts.
+struct Client {
+    const char* code;
+    const char* owner[3]; // title, first name, surname
+    Lines cats;
+    Lines address;
+    const char* email;
+    const char* lastIn;
+    int inactive = 0;
+};
+
+// Three current clients around a cut-off of 1 June 2025, and two index
+// entries that name no readable record; the questions answered from scripts.
 class ExportCommandsTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        addClient("SMITHANN", "Smith", {"Tom", "Kit"}, "ann@example.com", "31/05/25");
-        addClient("JONESTOM", "Jones", {"Tom"}, "Not Known", "01/06/25");
+        add({"SMITHANN",
+             {"Mrs", "Ann", "Smith"},
+             {"Tom", "-", "Kit"},
+             {"2 High St", " , ", "", "Upton"},
+             "ann@example.com",
+             "31/05/25"});
+        appendEntry(session.index, "Gone", "GONEAWAY"); // no record file
+        appendEntry(session.index, "Dots", "..");       // never a file name
+        add({"LEEBOB",
+             {"Mr", "Bob", "Lee"},
+             {"", "Tom"},
+             {"1 Low Rd"},
+             "Not Known",
+             "01/06/25",
+             1});
+        add({"JONESJO", {"Ms", "Jo", "Jones"}, {"Sam", "Tom"}, {}, "not known", "02/06/25"});
     }
-    void addClient(const char* code, const char* surname, const Lines& cats, const char* email,
-                   const char* lastIn)
+    void add(const Client& c)
     {
         ClientRecord client{};
-        client.style.set("Mrs");
-        client.firstName.set("Ann");
-        client.surname.set(surname);
-        client.address[0].set("2 High St");
-        client.email.set(email);
-        client.lastInDate.set(lastIn);
-        for (std::size_t slot = 0; slot < cats.size(); ++slot)
-            client.catName[slot].set(cats[slot]);
-        ASSERT_TRUE(writeClientRecord(session.folder, code, client));
-        appendEntry(session.index, surname, code);
+        client.code.set(c.code);
+        client.style.set(c.owner[0]);
+        client.firstName.set(c.owner[1]);
+        client.surname.set(c.owner[2]);
+        for (std::size_t i = 0; i < c.cats.size(); ++i)
+            client.catName[i].set(c.cats[i]);
+        for (std::size_t i = 0; i < c.address.size(); ++i)
+            client.address[i].set(c.address[i]);
+        client.email.set(c.email);
+        client.lastInDate.set(c.lastIn);
+        client.inactive.set(c.inactive);
+        ASSERT_TRUE(writeClientRecord(session.folder, c.code, client));
+        appendEntry(session.index, c.owner[2], c.code);
+    }
+    [[nodiscard]] ClientRecord record(const char* code) const
+    {
+        ClientRecord client;
+        readClientRecord(session.folder, code, client);
+        return client;
     }
     [[nodiscard]] std::string file(const char* name) const { return fileBytes(temp.root() / name); }
 
@@ -50,33 +80,32 @@ protected:
     testing::ScriptedExportQuestions questions;
 };
 
-TEST_F(ExportCommandsTest, TheAddressFileIsWrittenInTheStyleChosenWhichIsKeptForTheRun)
+TEST_F(ExportCommandsTest, AddressLabelsInEitherStyleTheStyleKeptForTheRun)
 {
-    questions.styles = {std::nullopt};
+    questions.styles = {std::nullopt, LabelStyle::CatCareOf, LabelStyle::Plain};
+    questions.openAnswers = {true, false};
     fileClientAddresses(session, questions);
     EXPECT_FALSE(std::filesystem::exists(temp.root() / "Clientlist.txt")) << "cancelled";
 
-    questions.styles = {LabelStyle::CatCareOf, LabelStyle::Plain};
-    questions.openAnswers = {true, false};
     fileClientAddresses(session, questions);
-    EXPECT_EQ(file("Clientlist.txt"), "Tom, Kit\nc\\o Mrs Ann Smith\n2 High St\n\n"
-                                      "Tom\nc\\o Mrs Ann Jones\n2 High St\n\n");
-    ASSERT_EQ(fakes.ui.messages.size(), 1u);
-    EXPECT_EQ(fakes.ui.messages[0],
-              (Message{"2 names and addresses printed to file:\n" + temp.path() + "Clientlist.txt",
-                       "Completed"}));
+    // Bob's first cat has no name: his label is plain in either style.
+    EXPECT_EQ(file("Clientlist.txt"), "Tom, Kit\nc\\o Mrs Ann Smith\n2 High St\nUpton\n\n"
+                                      "Mr Bob Lee\n1 Low Rd\n\nSam, Tom\nc\\o Ms Jo Jones\n\n");
+    EXPECT_EQ(fakes.ui.messages, (std::vector<Message>{{"3 names and addresses printed to file:\n" +
+                                                            temp.path() + "Clientlist.txt",
+                                                        "Completed"}}));
     EXPECT_EQ(questions.foldersOpened, Lines{temp.path()});
 
     fileClientAddresses(session, questions);
-    EXPECT_EQ(file("Clientlist.txt"), "Mrs Ann Smith\n2 High St\n\nMrs Ann Jones\n2 High St\n\n")
-        << "a shorter file leaves nothing of the longer one";
+    EXPECT_EQ(file("Clientlist.txt"),
+              "Mrs Ann Smith\n2 High St\nUpton\n\nMr Bob Lee\n1 Low Rd\n\nMs Jo Jones\n\n");
     EXPECT_EQ(questions.stylesShown, (std::vector<LabelStyle>{LabelStyle::Plain, LabelStyle::Plain,
                                                               LabelStyle::CatCareOf}));
     EXPECT_EQ(questions.openAsked, (Lines{"Clientlist.txt", "Clientlist.txt"}));
     EXPECT_EQ(questions.foldersOpened.size(), 1u) << "No opens nothing";
 }
 
-TEST_F(ExportCommandsTest, AnEmailFileThatCannotBeWrittenIsToldAndNotReportedCompleted)
+TEST_F(ExportCommandsTest, EmailsSpeltNotKnownAreLeftOutAndAFailedWriteIsNeverCompleted)
 {
     std::filesystem::create_directory(temp.root() / "ClientEmails.txt");
     fileClientEmails(session, questions);
@@ -86,81 +115,67 @@ TEST_F(ExportCommandsTest, AnEmailFileThatCannotBeWrittenIsToldAndNotReportedCom
 
     std::filesystem::remove(temp.root() / "ClientEmails.txt");
     fileClientEmails(session, questions);
-    EXPECT_EQ(file("ClientEmails.txt"), "ann@example.com,\n");
+    EXPECT_EQ(file("ClientEmails.txt"), "ann@example.com,\nnot known,\n");
     EXPECT_EQ(fakes.ui.messages.back().text,
-              "1 email addresses printed to file:\n" + temp.path() + "ClientEmails.txt");
+              "2 email addresses printed to file:\n" + temp.path() + "ClientEmails.txt");
 }
 
-TEST_F(ExportCommandsTest, EachOkOfInactiveClientsMarksAgainstTheDateTyped)
+TEST_F(ExportCommandsTest, InactiveMarksOnlyClientsSeenBeforeTheDateAndRewritesEveryRecord)
 {
-    questions.cutOffDates = {"01/06/25", "dd/mm/yy", "02/06/25"};
+    ClientRecord smith = record("SMITHANN");
+    smith.code.set("JONESJO"); // a record naming another client inside it
+    ASSERT_TRUE(writeClientRecord(session.folder, "SMITHANN", smith));
+    // The date typed is read to its 23rd character: the second reads "01/06/2".
+    questions.cutOffDates = {"01/06/25", "01/06/" + std::string(16, ' ') + "25"};
     markInactiveClients(session, questions);
     EXPECT_EQ(questions.inactiveResults,
-              (Lines{"2 Clients examined\n1 Client Marked as Inactive",
-                     "2 Clients examined\n0 Client Marked as Inactive",
-                     "2 Clients examined\n2 Client Marked as Inactive"}));
-    ClientRecord jones;
-    readClientRecord(session.folder, "JONESTOM", jones);
-    EXPECT_EQ(jones.inactive.get(), 1);
+              (Lines{"3 Clients examined\n1 Client Marked as Inactive",
+                     "3 Clients examined\n0 Client Marked as Inactive"}));
+
+    questions.cutOffDates = {"01/06/" + std::string(15, ' ') + "25"};
+    markInactiveClients(session, questions);
+    EXPECT_EQ(record("LEEBOB").inactive.get(), 0) << "seen on the day: active again";
+    EXPECT_EQ(record("JONESJO").surname.str(), "Jones");
+    smith.inactive.set(1);
+    EXPECT_EQ(testing::bytesOf(record("SMITHANN")), testing::bytesOf(smith))
+        << "nothing but the flag changes";
+    EXPECT_FALSE(session.folder.exists("GONEAWAY.DAT"));
+
+    // A record that cannot be written is told and ends the run there.
+    std::filesystem::permissions(temp.root() / "LEEBOB.DAT", std::filesystem::perms::owner_read);
+    questions.cutOffDates = {"01/01/30"};
+    markInactiveClients(session, questions);
+    EXPECT_EQ(questions.inactiveResults.back(), "1 Clients examined\n1 Client Marked as Inactive");
+    EXPECT_EQ(fakes.ui.titles(), Lines{"File Error"});
+    EXPECT_EQ(record("JONESJO").inactive.get(), 0);
 }
 
-TEST_F(ExportCommandsTest, ThePopularListIsFiledAndPrintedWithoutTheDialogOrItsRule)
+TEST_F(ExportCommandsTest, NameListsAreFiledAndPrintedWithoutThePrintDialogOrItsRule)
 {
     session.printDialog.modeInForce = 2;
     questions.fileListPresses = 1;
-    questions.printAnswers = {true};
+    questions.printAnswers = {true, true};
     countCatNames(session, questions);
-    EXPECT_EQ(questions.nameLists, (std::vector<Lines>{{"\tTom\t2", " ", "1 Unique Names"}}));
-    EXPECT_EQ(file("PopularNames.txt"), "Tom\t2\n \n1 Unique Names\n");
+    listUniqueNames(session, questions);
+    EXPECT_EQ(questions.nameLists,
+              (std::vector<Lines>{{"\tTom\t3", " ", "1 Unique Names"},
+                                  {"\tKit\t1", "\tSam\t1", " ", "2 Unique Names"}}));
+    EXPECT_EQ(file("PopularNames.txt"), "Tom\t3\n \n1 Unique Names\n");
+    EXPECT_EQ(file("UniqueNames.txt"), "Kit\t1\nSam\t1\n \n2 Unique Names\n");
     EXPECT_EQ(fakes.ui.messages.at(0).text,
               "The list has been saved to the file:\n" + temp.path() + "PopularNames.txt");
-    EXPECT_EQ(fakes.printer.jobs, (std::vector<testing::FakePrinter::Job>{{"pop list", false}}));
+    // The unique list prints the popular names too.
+    EXPECT_EQ(fakes.printer.jobs,
+              (std::vector<testing::FakePrinter::Job>{{"pop list", false}, {"pop list", false}}));
     EXPECT_EQ(session.printDialog.modeInForce, 2);
     EXPECT_FALSE(session.printDialog.printedWithDialog);
 
-    // The unique list prints the popular names too.
-    questions.printAnswers = {true};
-    listUniqueNames(session, questions);
-    EXPECT_EQ(questions.nameLists.back(), (Lines{"\tKit\t1", " ", "1 Unique Names"}));
-    EXPECT_EQ(file("UniqueNames.txt"), "Kit\t1\n \n1 Unique Names\n");
-    EXPECT_EQ(fakes.printer.jobs.size(), 2u);
-
-    // Close prints nothing.
-    questions.fileListPresses = 0;
-    countCatNames(session, questions);
-    EXPECT_EQ(fakes.printer.jobs.size(), 2u);
-}
-
-TEST_F(ExportCommandsTest, WithNoNameTwicePrintPrintsNoPage)
-{
-    ClientRecord jones;
-    readClientRecord(session.folder, "JONESTOM", jones);
-    jones.catName[0].set("Sam");
-    ASSERT_TRUE(writeClientRecord(session.folder, "JONESTOM", jones));
+    // Smith alone has no name twice: the list is empty and prints no page.
+    session.index.count.set(1);
     questions.printAnswers = {true};
     countCatNames(session, questions);
     EXPECT_EQ(questions.nameLists.back(), (Lines{" ", "0 Unique Names"}));
-    EXPECT_TRUE(fakes.printer.jobs.empty());
-}
-
-TEST(ExportCommandsOnAFullDataSet, EveryClientIsFiledAndCountedAsWritten)
-{
-    testing::TempFolder temp;
-    testing::FakePorts fakes;
-    Session session{fakes.ports(), temp.path()};
-    session.index = testing::generateDataSet(session.folder, maxClients, 11);
-    testing::ScriptedExportQuestions questions;
-    questions.styles = {LabelStyle::Plain};
-    fileClientAddresses(session, questions);
-    fileClientEmails(session, questions);
-    ASSERT_EQ(fakes.ui.messages.size(), 2u);
-    EXPECT_EQ(fakes.ui.messages[0].text.substr(0, 40), "599 names and addresses printed to file:");
-    const std::string emails = fileBytes(temp.root() / "ClientEmails.txt");
-    const auto lines = std::count(emails.begin(), emails.end(), '\n');
-    EXPECT_GT(lines, 300); // about three clients in four have one
-    EXPECT_EQ(fakes.ui.messages[1].text, std::to_string(lines) +
-                                             " email addresses printed to file:\n" + temp.path() +
-                                             "ClientEmails.txt");
+    EXPECT_EQ(fakes.printer.jobs.size(), 2u);
 }
 
 } // namespace
