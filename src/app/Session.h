@@ -8,6 +8,7 @@
 #include "accounts/ExchangeRateRecord.h"
 #include "accounts/RatesRecord.h"
 #include "app/ShellState.h"
+#include "housekeeping/AddressFile.h"
 #include "ports/Ports.h"
 #include "print/PrintBuffer.h"
 #include "print/PrintDialogRule.h"
@@ -54,6 +55,8 @@ public:
     PrintDialogState printDialog;
 
     DateEntryState dates{};
+    // The address file's label style, as last chosen this run.
+    LabelStyle addressStyle = LabelStyle::Plain;
     RandomDraw draw;
 
     // The calendar year, taken once at start-up.

@@ -14,6 +14,7 @@
 #include "app/commands/ClientLookup.h"
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
+#include "app/commands/Exports.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 
@@ -344,6 +345,47 @@ struct ScriptedNotesQuestions : ScriptedFinder<ClientNotesQuestions, ClientRemov
     std::vector<std::vector<std::string>> pastLists;
     std::vector<ClientDetailsListing> detailsShown;
     std::vector<std::string> asked;
+};
+
+// The export commands' questions answered from scripts; records what each
+// dialog showed.
+struct ScriptedExportQuestions : ExportQuestions {
+    std::optional<LabelStyle> chooseAddressFormat(LabelStyle current) override
+    {
+        stylesShown.push_back(current);
+        return next(styles);
+    }
+    bool askToOpenDataFolder(const std::string& fileName) override
+    {
+        openAsked.push_back(fileName);
+        return next(openAnswers);
+    }
+    void openDataFolder(const std::string& folder) override { foldersOpened.push_back(folder); }
+    void fillInactiveClients(const InactiveRule& onOk) override
+    {
+        while (!cutOffDates.empty())
+            inactiveResults.push_back(onOk(next(cutOffDates)));
+    }
+    // Presses "File the List" as often as scripted, then Print or Close.
+    bool showNameList(const std::vector<std::string>& lines,
+                      const std::function<void()>& fileTheList) override
+    {
+        nameLists.push_back(lines);
+        for (int press = 0; press < fileListPresses; ++press)
+            fileTheList();
+        return next(printAnswers);
+    }
+
+    std::deque<std::optional<LabelStyle>> styles;
+    std::vector<LabelStyle> stylesShown;
+    std::deque<bool> openAnswers;
+    std::vector<std::string> openAsked;
+    std::vector<std::string> foldersOpened;
+    std::deque<std::string> cutOffDates; // typed before each OK; Close once used up
+    std::vector<std::string> inactiveResults;
+    int fileListPresses = 0;
+    std::deque<bool> printAnswers;
+    std::vector<std::vector<std::string>> nameLists;
 };
 
 } // namespace purrlodge::testing

@@ -15,6 +15,7 @@
 #include "app/commands/ArrivalSheet.h"
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
+#include "app/commands/Exports.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "app/commands/Printing.h"
@@ -42,7 +43,7 @@ QIcon toolBarIcon(const QString& resource)
 
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
-      accountQuestions_(this), clockFace_(new ClockFace(session, this)),
+      accountQuestions_(this), exportQuestions_(this), clockFace_(new ClockFace(session, this)),
       clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -191,6 +192,15 @@ void TMyWindow::buildCommandTable()
     // Good-Housekeeping
     setCommand(command::remindMe, [this] { toggleBackupReminder(session_); });
     setChecker(command::remindMe, [&session] { return session.shell.backupReminder; });
+    setCommand(command::fileClientAddresses,
+               [this] { fileClientAddresses(session_, exportQuestions_); });
+    setCommand(command::fileClientEmails, [this] { fileClientEmails(session_, exportQuestions_); });
+
+    // Special Operations
+    setCommand(command::countCatNames, [this] { countCatNames(session_, exportQuestions_); });
+    setCommand(command::markInactiveClients,
+               [this] { markInactiveClients(session_, exportQuestions_); });
+    setCommand(command::listUniqueNames, [this] { listUniqueNames(session_, exportQuestions_); });
 
     // Print Jobs
     setCommand(command::admissionRegister,

@@ -11,6 +11,7 @@
 #include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
+#include "gui/housekeeping/QtExportQuestions.h"
 
 class QAction;
 class QMenu;
@@ -74,6 +75,7 @@ private:
     QtSetupQuestions setupQuestions_;
     QtClientQuestions clientQuestions_;
     QtAccountQuestions accountQuestions_;
+    QtExportQuestions exportQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
