@@ -17,7 +17,7 @@ InactiveMarking markInactive(const DataFolder& folder, const ClientIndex& index,
     InactiveMarking result;
     forEachCurrentClient(folder, index, [&](const std::string& code, const ClientRecord& read) {
         ClientRecord client = read;
-        const bool inactive = dateToNumber(client.lastInDate.str()) < cutOff;
+        const bool inactive = dateToNumber(client.lastOutDate.str()) < cutOff;
         client.inactive.set(inactive ? 1 : 0);
         if (!writeClientRecord(folder, code, client)) {
             result.complete = false;

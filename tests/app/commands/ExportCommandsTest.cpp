@@ -22,7 +22,7 @@ struct Client {
     Lines cats;
     Lines address;
     const char* email;
-    const char* lastIn;
+    const char* lastOut;
     int inactive = 0;
 };
 
@@ -61,7 +61,7 @@ protected:
         for (std::size_t i = 0; i < c.address.size(); ++i)
             client.address[i].set(c.address[i]);
         client.email.set(c.email);
-        client.lastInDate.set(c.lastIn);
+        client.lastOutDate.set(c.lastOut);
         client.inactive.set(c.inactive);
         ASSERT_TRUE(writeClientRecord(session.folder, c.code, client));
         appendEntry(session.index, c.owner[2], c.code);
