@@ -23,7 +23,7 @@ struct InactiveMarking {
 // The date number of a typed cut-off date (at most its first 23 characters).
 [[nodiscard]] std::int64_t cutOffDay(std::string_view typed);
 
-// Marks every current client whose last visit (the last-in date) lies before
+// Marks every current client whose last stay ended (the last-out date) before
 // the cut-off day inactive and every other one active, rewriting each record
 // crash-safely under the code the index names. A client not seen since before
 // the cut-off becomes inactive; one seen on the day or later is active again.

@@ -52,15 +52,15 @@ void TDlg82::accept()
 
 void TDlg82::showHelp()
 {
-    HelpPage help(QStringLiteral("inactiveClientsHelpDialog"),
-                  QStringLiteral("Inactive Clients Help"),
-                  QStringLiteral("Type a date as dd/mm/yy and press OK.\n\n"
-                                 "Every client whose last visit (the Last In date) is before that "
-                                 "date is marked Inactive. Every other client, including one who "
-                                 "last came on that very date, is marked active again, so you can "
-                                 "run this as often as you like with a new date.\n\n"
-                                 "Nothing else in the client records is changed."),
-                  50, this);
+    HelpPage help(
+        QStringLiteral("inactiveClientsHelpDialog"), QStringLiteral("Inactive Clients Help"),
+        QStringLiteral("Type a date as dd/mm/yy and press OK.\n\n"
+                       "Every client whose last stay ended (the Last Out date) before that "
+                       "date is marked Inactive. Every other client, including one who "
+                       "last left on that very date, is marked active again, so you can "
+                       "run this as often as you like with a new date.\n\n"
+                       "Nothing else in the client records is changed."),
+        50, this);
     help.exec();
 }
 
