@@ -7,6 +7,7 @@
 #include "housekeeping/TextFile.h"
 #include "print/PopList.h"
 #include "print/PrinterJobs.h"
+#include "store/ClientFiles.h"
 
 namespace purrlodge {
 
@@ -73,8 +74,13 @@ void fileClientEmails(Session& session, ExportQuestions& questions)
 void markInactiveClients(Session& session, ExportQuestions& questions)
 {
     questions.fillInactiveClients([&session](const std::string& typedDate) {
-        return inactiveMarkingText(
-            markInactive(session.folder, session.index, cutOffDay(typedDate)));
+        const InactiveMarking result =
+            markInactive(session.folder, session.index, cutOffDay(typedDate));
+        // The current client's record in memory takes the flag as filed, so a
+        // later save of the client never undoes the marking.
+        if (!session.clientCode.empty())
+            readClientRecord(session.folder, session.clientCode, session.client);
+        return inactiveMarkingText(result);
     });
 }
 

@@ -126,8 +126,11 @@ TEST_F(ExportCommandsTest, InactiveMarksOnlyClientsSeenBeforeTheDateAndRewritesE
     smith.code.set("JONESJO"); // a record naming another client inside it
     ASSERT_TRUE(writeClientRecord(session.folder, "SMITHANN", smith));
     // The date typed is read to its 23rd character: the second reads "01/06/2".
+    session.clientCode = "LEEBOB";
+    session.client = record("LEEBOB");
     questions.cutOffDates = {"01/06/25", "01/06/" + std::string(16, ' ') + "25"};
     markInactiveClients(session, questions);
+    EXPECT_EQ(session.client.inactive.get(), 0) << "the current client takes the flag as filed";
     EXPECT_EQ(questions.inactiveResults,
               (Lines{"3 Clients examined\n1 Client Marked as Inactive",
                      "3 Clients examined\n0 Client Marked as Inactive"}));
