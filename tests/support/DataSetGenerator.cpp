@@ -154,6 +154,12 @@ ClientIndex generateDataSet(const DataFolder& folder, int clients, unsigned seed
             [&](std::string_view candidate) { return takenCodes.count(toUpper(candidate)) > 0; });
         takenCodes.insert(toUpper(code));
         client.code.set(code);
+        // The last stays spread over three years, so some clients are long gone.
+        const int day = number % 23 + 1;
+        const int month = number % 12 + 1;
+        const int year = 24 + number % 3;
+        client.lastInDate.set(formatDateText(day, month, year));
+        client.lastOutDate.set(formatDateText(day + 5, month, year));
         writeBlock(folder, clientFileName(code, extension::clientRecord), client);
         if (pick.oneIn(5)) {
             AutoMemo memo{};

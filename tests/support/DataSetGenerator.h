@@ -9,7 +9,8 @@ class DataFolder;
 namespace purrlodge::testing {
 
 // Writes a full data set into the folder through the program's own record
-// types: `clients` client records (at most 599) with up to six cats each, every
+// types: `clients` client records (at most 599) with up to six cats each and a
+// last stay somewhere in 2024 to 2026, every
 // field Global Search looks in filled (some notes lines red), an auto memo for
 // about one client in five, ten accounts for every client (numbered from 1000
 // on, the counter at the last), and FIDEX.CTL sorted as start-up leaves it.

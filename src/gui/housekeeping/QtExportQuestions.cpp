@@ -40,7 +40,18 @@ bool QtExportQuestions::askToOpenDataFolder(const std::string& fileName)
 
 void QtExportQuestions::openDataFolder(const std::string& folder)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(fromWindows1252(folder)));
+    const QString path = fromWindows1252(folder);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        return;
+    // Without a file manager the person still needs to know where to look.
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Open Data Folder"),
+                    QStringLiteral("This computer has no program set up to show folders.\n\n"
+                                   "Your file is in the folder:\n") +
+                        path,
+                    QMessageBox::Ok, parent());
+    box.setObjectName(QStringLiteral("folderNotOpenedBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void QtExportQuestions::fillInactiveClients(const InactiveRule& onOk)
