@@ -161,36 +161,6 @@ TEST_F(BackupTest, FolderBackupReplacesTheOldBackupsFilesAndCopiesEveryDataFile)
     EXPECT_TRUE(fakes.ui.messages.empty());
 }
 
-TEST_F(BackupTest, AFileThatCannotBeCopiedIsToldAndEndsTheCopy)
-{
-    const fs::path backup = temp.root() / "Backup";
-    fs::create_directories(backup);
-    // The data file vanishes (a disc pulled) after the second copy.
-    progress.atCall = {2, [this] { fs::remove(data / "JonesT.ACR"); }};
-
-    const CopyResult result =
-        backupToFolder(dataPath(), (backup / "").string(), fakes.ui, progress);
-    EXPECT_EQ(result.outcome, CopyOutcome::Failed);
-    EXPECT_EQ(result.filesCopied, 2); // EURORATE.XCH and FIDEX.CTL come first by name
-    ASSERT_EQ(fakes.ui.messages.size(), 1u);
-    EXPECT_EQ(fakes.ui.messages[0],
-              (Message{"Unable to copy \n\nFile JonesT.ACR in Directory " + dataPath() +
-                           "\nto\nFile JonesT.ACR in Directory " + (backup / "").string(),
-                       "Copy Error"}));
-}
-
-TEST_F(BackupTest, ACancelledFolderBackupStopsBetweenFiles)
-{
-    const fs::path backup = temp.root() / "Backup";
-    fs::create_directories(backup);
-    progress.cancelFromCall = 3;
-    const CopyResult result =
-        backupToFolder(dataPath(), (backup / "").string(), fakes.ui, progress);
-    EXPECT_EQ(result.outcome, CopyOutcome::Cancelled);
-    EXPECT_EQ(result.filesCopied, 3);
-    EXPECT_EQ(namesIn(backup).size(), 3u);
-}
-
 // Drive A: stands for a folder; its free space is scripted.
 class FloppyBackupTest : public BackupTest {
 protected:

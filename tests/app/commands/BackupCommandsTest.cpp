@@ -88,6 +88,7 @@ TEST_F(BackupCommandsTest, ACancelledOrRefusedBackupLeavesTheLastBackupDate)
     chooseDriveC();
     backupMyData(session, questions);
     EXPECT_EQ(fakes.ui.titles(), Names{"Backup Cancelled"});
+    EXPECT_FALSE(fs::exists(backup() / "SmithA.DAT")) << "nothing copied after Cancel";
     EXPECT_EQ(setting("LastBkDate"), "");
     EXPECT_EQ(setting("DefBkDir"), "");
 
@@ -111,7 +112,11 @@ TEST_F(BackupCommandsTest, ACopyErrorStillCountsAsTheBackupMade)
     questions.progress.atCall = {1, [this] { fs::remove(data() / "SmithA.ACR"); }};
     chooseDriveC();
     backupMyData(session, questions);
-    EXPECT_EQ(fakes.ui.titles(), (Names{"Copy Error", "Backup Result"}));
+    EXPECT_EQ(fakes.ui.messages.at(0),
+              (Message{"Unable to copy \n\nFile SmithA.ACR in Directory " + session.folder.path() +
+                           "\nto\nFile SmithA.ACR in Directory " + (backup() / "").string(),
+                       "Copy Error"}));
+    EXPECT_EQ(fakes.ui.titles().back(), "Backup Result");
     EXPECT_EQ(fakes.ui.messages.back().text.substr(0, 18), "2 files backed up\n");
     EXPECT_EQ(setting("LastBkDate"), std::to_string(fakes.clock.now()));
 }
