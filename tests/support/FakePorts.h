@@ -94,7 +94,6 @@ struct FakeProfile : Profile {
     std::vector<std::pair<std::string, std::string>> writes;
 };
 
-// No drives and no printer: nothing in the core asks for them.
 // Drive letters mapped to folders by the test; free space is scripted, one
 // reading per call, the last reading repeating.
 struct FakeDrives : Drives {
@@ -120,7 +119,7 @@ struct FakeDrives : Drives {
 };
 
 // A printer that records every job and answers from a script (Printed once
-// the script is used up); a job's page is drawn on the canvas set, if any.
+// the script is used up).
 struct FakePrinter : Printer {
     struct Job {
         std::string title;
@@ -131,27 +130,23 @@ struct FakePrinter : Printer {
 
     [[nodiscard]] bool hasPrinter() const override { return false; }
     PrintOutcome printPage(const std::string& title, bool prompt,
-                           const std::function<void(Canvas&)>& drawPage) override
+                           const std::function<void(Canvas&)>&) override
     {
         jobs.push_back({title, prompt});
         const PrintOutcome outcome = outcomes.empty() ? PrintOutcome::Printed : outcomes.front();
         if (!outcomes.empty())
             outcomes.pop_front();
-        if (outcome == PrintOutcome::Printed && canvas != nullptr)
-            drawPage(*canvas);
         return outcome;
     }
     [[nodiscard]] std::vector<std::string> takeSavedFiles() override
     {
         return std::exchange(savedFiles, {});
     }
-    void setUp() override { ++setUps; }
+    void setUp() override {}
 
     std::vector<Job> jobs;
     std::deque<PrintOutcome> outcomes;
-    Canvas* canvas = nullptr;
     std::vector<std::string> savedFiles;
-    int setUps = 0;
 };
 
 // One of each fake, wired into a Ports bundle.
