@@ -42,8 +42,6 @@ template <class Form, class... Extra> struct ScriptedForm {
     {
         shown.push_back(form);
         while (!entries.empty() || !steps.empty()) {
-            if (beforeOk)
-                beforeOk(verdicts.size());
             if (!entries.empty())
                 form = next(entries);
             else
@@ -59,9 +57,6 @@ template <class Form, class... Extra> struct ScriptedForm {
     std::deque<Step> steps;            // or changes made before each OK
     std::vector<Form> shown;           // what each opening showed
     std::vector<FormVerdict> verdicts; // what each OK came to
-    // Runs before each OK with the number of OKs pressed so far: a fault can
-    // be made or put right between two presses.
-    std::function<void(std::size_t)> beforeOk;
 };
 
 // The client finder answered from scripts, for every interface that asks it;
@@ -103,7 +98,7 @@ struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, Catter
     bool askNewDirectory(const std::string& folder) override
     {
         newDirectoriesAsked.push_back(folder);
-        return next(newDirectoryAnswers);
+        return false;
     }
     std::optional<FormVerdict> fillChangeDataSource(const std::string& currentFolder,
                                                     const OkRule<std::string>& onOk) override
@@ -141,7 +136,6 @@ struct ScriptedSetupQuestions : StartupQuestions, ChangeDataSetQuestions, Catter
     std::deque<std::optional<std::string>> directorySetupAnswers;
     std::vector<std::string> directorySetupSuggestions;
     std::deque<bool> directoryCheckAnswers;
-    std::deque<bool> newDirectoryAnswers;
     std::vector<std::string> newDirectoriesAsked;
     ScriptedForm<std::string> changeDataSource;
     ScriptedForm<EstablishmentForm> establishment;

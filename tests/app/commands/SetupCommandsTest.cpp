@@ -67,10 +67,11 @@ TEST_F(SetupCommandsTest, ChangeDataSetQuitsOnlyOnceCurrentDirWasWritten)
     // A settings file that cannot be written keeps the dialog open; the next
     // OK, once it can, registers the folder.
     const std::string folder = temp.path() + "other/";
-    setup.changeDataSource.entries = {folder, folder};
-    setup.changeDataSource.beforeOk = [this](std::size_t pressed) {
-        fakes.profile.failWrites = pressed == 0;
-    };
+    setup.changeDataSource.steps = {[&](std::string& typed) {
+                                        typed = folder;
+                                        fakes.profile.failWrites = true;
+                                    },
+                                    [&](std::string&) { fakes.profile.failWrites = false; }};
     EXPECT_EQ(changeDataSet(session, setup), 1);
     EXPECT_EQ(setup.changeDataSource.verdicts,
               (std::vector<FormVerdict>{FormVerdict::StayOpen, FormVerdict::Accept}));
