@@ -168,6 +168,7 @@ TEST_F(ClientFormRulesTest, KnownVaccinationYearAndBirthYearHoldTheirLimitsOnBot
     EXPECT_EQ(client.catBirthYear[0].get(), 2035);
 }
 
+// What a failed write leaves on the disc and in the index is pinned in ClientFilesTest.
 TEST_F(ClientFormRulesTest, ANewClientIsSavedWithItsIndexEntryOrNotAtAll)
 {
     client.firstName.set("Previous");
@@ -176,10 +177,7 @@ TEST_F(ClientFormRulesTest, ANewClientIsSavedWithItsIndexEntryOrNotAtAll)
         fakes.ui.messages.clear();
         EXPECT_EQ(ok(annSmith()), StayOpen) << blocked;
         EXPECT_EQ(fakes.ui.titles(), Strings{"File Error"});
-        EXPECT_FALSE(fs::is_regular_file(temp.root() / "SmithAnn.DAT") ||
-                     fs::is_regular_file(temp.root() / "FIDEX.CTL"));
-        EXPECT_EQ(index.usedCount(), 0);
-        EXPECT_EQ(client.firstName.str(), "Previous");
+        EXPECT_EQ(client.firstName.str(), "Previous") << "the current client stays";
         fs::remove(temp.root() / blocked);
     }
 
