@@ -11,6 +11,7 @@
 #include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
+#include "gui/housekeeping/QtBackupQuestions.h"
 
 class QAction;
 class QMenu;
@@ -74,6 +75,7 @@ private:
     QtSetupQuestions setupQuestions_;
     QtClientQuestions clientQuestions_;
     QtAccountQuestions accountQuestions_;
+    QtBackupQuestions backupQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
