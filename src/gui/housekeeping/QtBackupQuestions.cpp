@@ -105,6 +105,9 @@ bool QtBackupQuestions::showProgress(const std::string& text, int done, int tota
         progress_->setAutoReset(false);
         progress_->setAutoClose(false);
         progress_->setMinimumDuration(progressShownAfterMs);
+        // The clock towards showing the dialog starts at the first step.
+        progress_->setRange(0, std::max(total, 0));
+        progress_->setValue(0);
         cancelled_ = false;
         sinceEvents_.start();
     }
@@ -112,8 +115,9 @@ bool QtBackupQuestions::showProgress(const std::string& text, int done, int tota
         cancelled_ = true;
         return false;
     }
-    // A step of a count may wait for the next; a status (no count) shows at once.
-    if (!opening && total > 0 && sinceEvents_.elapsed() < eventsEveryMs)
+    // A step of a count may wait for the next; a status (no count) and the
+    // last step show at once.
+    if (!opening && total > 0 && done < total && sinceEvents_.elapsed() < eventsEveryMs)
         return true;
     progress_->setLabelText(fromWindows1252(text));
     progress_->setRange(0, std::max(total, 0));

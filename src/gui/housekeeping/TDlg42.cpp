@@ -67,10 +67,7 @@ TDlg42::TDlg42(const BackupOptionsDialog& dialog, QWidget* parent)
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(newTextLabel(QStringLiteral("dataFilesLabel"), dialog.dataFilesText, this));
-    QLabel* estimate = newTextLabel(QStringLiteral("estimateLabel"), dialog.estimateText, this);
-    estimate->setWordWrap(true);
-    estimate->setMinimumWidth(fontMetrics().averageCharWidth() * textLetters);
-    column->addWidget(estimate);
+    column->addWidget(newTextLabel(QStringLiteral("estimateLabel"), dialog.estimateText, this));
     column->addSpacing(8);
 
     choices_ = new QButtonGroup(this);
@@ -218,8 +215,9 @@ void TDlg42::showDriveFolder()
     }
     const std::optional<std::string> folder = dialog_.driveFolder(*letter);
     driveFolderLabel_->setText(
-        folder ? QStringLiteral("%1: is %2").arg(driveName(*letter), fromWindows1252(*folder))
-               : QStringLiteral("not set up on this computer"));
+        folder
+            ? QStringLiteral("%1: stands for %2").arg(driveName(*letter), fromWindows1252(*folder))
+            : QStringLiteral("not set up on this computer"));
 }
 
 void TDlg42::browseForDriveFolder()
