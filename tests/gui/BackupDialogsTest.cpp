@@ -54,6 +54,19 @@ QStringList filesIn(const QString& folder)
     return QDir(folder).entryList(QDir::Files, QDir::Name);
 }
 
+// Runs the action once the condition holds, or after two seconds, checking
+// from the event loop so that whatever is under way can finish first.
+void afterwards(QObject* context, std::function<bool()> condition, std::function<void()> action,
+                int triesLeft = 100)
+{
+    QTimer::singleShot(20, context, [=] {
+        if (condition() || triesLeft == 0)
+            action();
+        else
+            afterwards(context, condition, action, triesLeft - 1);
+    });
+}
+
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);
@@ -78,18 +91,24 @@ private slots:
                     QVERIFY(!button(d, u"floppyButton"_s)->isVisible());
                     retype(d, u"driveEdit"_s, u"f"_s);
                     QCOMPARE(child<QLabel>(d, u"driveFolderLabel"_s)->text(),
-                             u"not set up on this computer"_s);
+                             u"F: is not set up on this computer"_s);
                     clickLater(button(d, u"browseButton"_s));
                 },
                 [&](QWidget* d) {
                     auto* files = qobject_cast<QFileDialog*>(d);
                     QVERIFY(files != nullptr);
-                    files->setDirectory(stick);
+                    // Typed, the folder is taken as it stands, not as the file list
+                    // has got round to showing it.
+                    child<QLineEdit>(files, u"fileNameEdit"_s)->setText(stick);
                     QMetaObject::invokeMethod(files, &QDialog::accept, Qt::QueuedConnection);
                 },
                 [&](QWidget* d) {
-                    QVERIFY(child<QLabel>(d, u"driveFolderLabel"_s)->text().contains(stick));
-                    pressOk(d);
+                    // The file dialog may still be on its way out, and Browse not yet
+                    // back with the folder.
+                    QLabel* note = child<QLabel>(d, u"driveFolderLabel"_s);
+                    afterwards(
+                        d, [note, stick] { return note->text().contains(stick); },
+                        [d] { pressOk(d); });
                 },
                 pressOk, // Backup Result
             });

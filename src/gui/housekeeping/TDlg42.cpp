@@ -89,6 +89,16 @@ TDlg42::TDlg42(const BackupOptionsDialog& dialog, QWidget* parent)
         newTextLabel(QStringLiteral("floppyWarningLabel"), backupText::floppyWarning, this));
     floppyColumn->addWidget(
         newTextLabel(QStringLiteral("floppyPatienceLabel"), backupText::floppyPatience, this));
+    auto* floppyBrowse = new QPushButton(QStringLiteral("B&rowse..."), floppyTexts_);
+    floppyBrowse->setObjectName(QStringLiteral("floppyBrowseButton"));
+    floppyBrowse->setAutoDefault(false);
+    connect(floppyBrowse, &QPushButton::clicked, this, [this] { browseForDriveFolder('A'); });
+    floppyFolderLabel_ = newStaticLabel(QStringLiteral("floppyFolderLabel"), floppyTexts_);
+    makeSmall(floppyFolderLabel_);
+    auto* floppyRow = new QHBoxLayout;
+    floppyRow->addWidget(floppyBrowse);
+    floppyRow->addWidget(floppyFolderLabel_, 1);
+    floppyColumn->addLayout(floppyRow);
     column->addWidget(floppyTexts_);
 
     folderControls_ = new QWidget(this);
@@ -110,7 +120,7 @@ TDlg42::TDlg42(const BackupOptionsDialog& dialog, QWidget* parent)
     auto* browse = new QPushButton(QStringLiteral("&Browse..."), folderControls_);
     browse->setObjectName(QStringLiteral("browseButton"));
     browse->setAutoDefault(false);
-    connect(browse, &QPushButton::clicked, this, &TDlg42::browseForDriveFolder);
+    connect(browse, &QPushButton::clicked, this, &TDlg42::browseForTypedDrive);
     driveFolderLabel_ = newStaticLabel(QStringLiteral("driveFolderLabel"), folderControls_);
     makeSmall(driveFolderLabel_);
     auto* driveRow = new QHBoxLayout;
@@ -119,7 +129,7 @@ TDlg42::TDlg42(const BackupOptionsDialog& dialog, QWidget* parent)
     driveRow->addWidget(driveFolderLabel_, 1);
     folderColumn->addLayout(driveRow);
     column->addWidget(folderControls_);
-    connect(driveEdit_, &QLineEdit::textChanged, this, &TDlg42::showDriveFolder);
+    connect(driveEdit_, &QLineEdit::textChanged, this, &TDlg42::showDriveFolders);
 
     column->addSpacing(12);
     QLabel* reminder = newTextLabel(QStringLiteral("reminderLabel"), dialog.reminderNote, this);
@@ -194,7 +204,7 @@ void TDlg42::showMedium(BackupMedium medium, bool choiceShown)
     otherDriveButton_->setVisible(choosing || (choiceShown && medium == BackupMedium::OtherDrive));
     floppyTexts_->setVisible(medium == BackupMedium::Floppy);
     folderControls_->setVisible(medium == BackupMedium::OtherDrive);
-    showDriveFolder();
+    showDriveFolders();
 }
 
 void TDlg42::choose(BackupMedium medium)
@@ -206,21 +216,25 @@ void TDlg42::choose(BackupMedium medium)
         buttons_->button(QDialogButtonBox::Ok)->setFocus();
 }
 
-void TDlg42::showDriveFolder()
+QString TDlg42::driveFolderText(char letter) const
 {
-    const std::optional<char> letter = driveLetterOf(fieldText(*driveEdit_));
-    if (!letter) {
-        driveFolderLabel_->clear();
-        return;
-    }
-    const std::optional<std::string> folder = dialog_.driveFolder(*letter);
-    driveFolderLabel_->setText(
-        folder
-            ? QStringLiteral("%1: stands for %2").arg(driveName(*letter), fromWindows1252(*folder))
-            : QStringLiteral("not set up on this computer"));
+    const std::optional<std::string> folder = dialog_.driveFolder(letter);
+    return folder ? QStringLiteral("%1: stands for %2")
+                        .arg(driveName(letter), fromWindows1252(*folder))
+                  : QStringLiteral("%1: is not set up on this computer").arg(driveName(letter));
 }
 
-void TDlg42::browseForDriveFolder()
+void TDlg42::showDriveFolders()
+{
+    floppyFolderLabel_->setText(driveFolderText('A'));
+    const std::optional<char> letter = driveLetterOf(fieldText(*driveEdit_));
+    if (letter)
+        driveFolderLabel_->setText(driveFolderText(*letter));
+    else
+        driveFolderLabel_->clear();
+}
+
+void TDlg42::browseForTypedDrive()
 {
     const std::optional<char> letter = driveLetterOf(fieldText(*driveEdit_));
     if (!letter) {
@@ -234,10 +248,14 @@ void TDlg42::browseForDriveFolder()
         driveEdit_->setFocus();
         return;
     }
-    const QString drive = driveName(*letter);
-    const std::optional<std::string> current = dialog_.driveFolder(*letter);
+    browseForDriveFolder(*letter);
+}
+
+void TDlg42::browseForDriveFolder(char letter)
+{
+    const std::optional<std::string> current = dialog_.driveFolder(letter);
     const QString chosen = QFileDialog::getExistingDirectory(
-        this, QStringLiteral("The folder that drive %1: stands for").arg(drive),
+        this, QStringLiteral("The folder that drive %1: stands for").arg(driveName(letter)),
         current ? fromWindows1252(*current) : QDir::homePath());
     if (chosen.isEmpty())
         return;
@@ -255,8 +273,8 @@ void TDlg42::browseForDriveFolder()
         box.exec();
         return;
     }
-    if (dialog_.setDriveFolder(*letter, bytes))
-        showDriveFolder();
+    if (dialog_.setDriveFolder(letter, bytes))
+        showDriveFolders();
 }
 
 void TDlg42::showHelp()

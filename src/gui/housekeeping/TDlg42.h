@@ -14,8 +14,8 @@ namespace purrlodge {
 
 // "Backup Options" (DIALOG 42): how much data there is, then the choice of
 // the floppy set in drive A: or a folder on another drive. The choice buttons
-// give way to the floppy texts, or to the folder and drive edits with Browse
-// to say which folder of this computer a drive letter stands for. OK hands
+// give way to the floppy texts, or to the folder and drive edits; beside
+// either drive, Browse says which folder of this computer it stands for. OK hands
 // the entries to the dialog's rule, which runs the backup; while it answers
 // StayOpen the dialog shows the entries as they came back. Help is DIALOG 43.
 class TDlg42 : public FormDialog {
@@ -36,8 +36,11 @@ private:
     void showEntries(const BackupOptions& entries, bool choiceShown);
     void showMedium(BackupMedium medium, bool choiceShown);
     void choose(BackupMedium medium);
-    void showDriveFolder();
-    void browseForDriveFolder();
+    [[nodiscard]] QString driveFolderText(char letter) const;
+    void showDriveFolders();
+    // The letter typed in the drive edit, or the person is asked for one.
+    void browseForTypedDrive();
+    void browseForDriveFolder(char letter);
     void showHelp();
 
     const BackupOptionsDialog& dialog_;
@@ -49,9 +52,10 @@ private:
     QRadioButton* otherDriveButton_; // 104
     QWidget* floppyTexts_;
     QWidget* folderControls_;
-    QLineEdit* folderEdit_; // 105
-    QLineEdit* driveEdit_;  // 111
-    QLabel* driveFolderLabel_;
+    QLineEdit* folderEdit_;     // 105
+    QLineEdit* driveEdit_;      // 111
+    QLabel* driveFolderLabel_;  // what the typed letter stands for
+    QLabel* floppyFolderLabel_; // what drive A: stands for
     QDialogButtonBox* buttons_;
 };
 
