@@ -13,6 +13,7 @@
 #include "app/CommandIds.h"
 #include "app/Session.h"
 #include "app/commands/ArrivalSheet.h"
+#include "app/commands/BackupAndRestore.h"
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
 #include "app/commands/Exports.h"
@@ -43,8 +44,8 @@ QIcon toolBarIcon(const QString& resource)
 
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
-      accountQuestions_(this), exportQuestions_(this), clockFace_(new ClockFace(session, this)),
-      clockTimer_(new QTimer(this))
+      accountQuestions_(this), backupQuestions_(this), exportQuestions_(this),
+      clockFace_(new ClockFace(session, this)), clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(clockFace_);
@@ -190,6 +191,15 @@ void TMyWindow::buildCommandTable()
     setCommand(command::exitProgram, [this] { close(); });
 
     // Good-Housekeeping
+    setCommand(command::backupMyData, [this] { backupMyData(session_, backupQuestions_); });
+    // A restore reads the data set afresh with no client current: the clock
+    // face shows it, and the commands follow when the command ends.
+    setCommand(command::restoreDataFromBackup, [this] {
+        restoreDataFromBackup(session_, backupQuestions_);
+        clockFace_->update();
+    });
+    setCommand(command::showLastBackup, [this] { showLastBackup(session_, backupQuestions_); });
+    setCommand(command::wheresMyStuff, [this] { wheresMyStuff(session_, backupQuestions_); });
     setCommand(command::remindMe, [this] { toggleBackupReminder(session_); });
     setChecker(command::remindMe, [&session] { return session.shell.backupReminder; });
     setCommand(command::fileClientAddresses,
@@ -207,6 +217,7 @@ void TMyWindow::buildCommandTable()
                [this] { printAdmissionRegister(session_, accountQuestions_); });
 
     // Help
+    setCommand(command::backupAdvice, [this] { backupAdvice(session_, backupQuestions_); });
     setEnabler(command::seePictureNotes, [&session] { return session.shell.pictureHasNotes(); });
 }
 

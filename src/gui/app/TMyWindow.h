@@ -11,6 +11,7 @@
 #include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
+#include "gui/housekeeping/QtBackupQuestions.h"
 #include "gui/housekeeping/QtExportQuestions.h"
 
 class QAction;
@@ -75,6 +76,7 @@ private:
     QtSetupQuestions setupQuestions_;
     QtClientQuestions clientQuestions_;
     QtAccountQuestions accountQuestions_;
+    QtBackupQuestions backupQuestions_;
     QtExportQuestions exportQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;

@@ -1,0 +1,197 @@
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QTemporaryDir>
+
+#include "app/CommandIds.h"
+#include "app/ProfileDrives.h"
+#include "app/Session.h"
+#include "gui/ModalAnswers.h"
+#include "gui/app/TMyWindow.h"
+#include "gui/housekeeping/TDlg42.h"
+#include "gui/ports/QtUi.h"
+#include "store/ClientFiles.h"
+#include "support/FakePorts.h"
+
+using namespace purrlodge;
+using namespace purrlodge::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The main window over a data folder with one client, its drive letters
+// taken from the settings as the program takes them.
+struct BackupShell {
+    QTemporaryDir dataFolder;
+    QTemporaryDir stick;
+    QtUi ui;
+    FakeClock clock{1'700'000'000};
+    FakeRandom random;
+    FakeProfile profile;
+    ProfileDrives drives{profile, std::string()};
+    FakePrinter printer;
+    Session session{Ports{ui, clock, random, profile, drives, printer},
+                    dataFolder.path().toStdString() + "/"};
+    TMyWindow window{session};
+
+    BackupShell()
+    {
+        ui.setMainWindow(&window);
+        ClientRecord client{};
+        client.surname.set("Nguyen");
+        client.firstName.set("Ann");
+        client.catName[0].set("Tibbles");
+        if (addNewClient(session.folder, session.index, client, session.draw) !=
+            AddClientResult::Added)
+            qFatal("the client could not be added");
+    }
+
+    void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
+};
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files, QDir::Name);
+}
+
+// Runs the action once the condition holds, or after two seconds, checking
+// from the event loop so that whatever is under way can finish first.
+void afterwards(QObject* context, std::function<bool()> condition, std::function<void()> action,
+                int triesLeft = 100)
+{
+    QTimer::singleShot(20, context, [=] {
+        if (condition() || triesLeft == 0)
+            action();
+        else
+            afterwards(context, condition, action, triesLeft - 1);
+    });
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class BackupDialogsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void backupGoesToTheFolderBrowsedForAndRestoreBringsItBack()
+    {
+        BackupShell shell;
+        const QString stick = QDir(shell.stick.path()).canonicalPath();
+        {
+            ModalAnswers backup({
+                [](QWidget* d) {
+                    QVERIFY(!edit(d, u"driveEdit"_s)->isVisible());
+                    button(d, u"otherDriveButton"_s)->click();
+                    QVERIFY(!button(d, u"floppyButton"_s)->isVisible());
+                    retype(d, u"driveEdit"_s, u"f"_s);
+                    QCOMPARE(child<QLabel>(d, u"driveFolderLabel"_s)->text(),
+                             u"F: is not set up on this computer"_s);
+                    clickLater(button(d, u"browseButton"_s));
+                },
+                [&](QWidget* d) {
+                    auto* files = qobject_cast<QFileDialog*>(d);
+                    QVERIFY(files != nullptr);
+                    // Typed, the folder is taken as it stands, not as the file list
+                    // has got round to showing it.
+                    child<QLineEdit>(files, u"fileNameEdit"_s)->setText(stick);
+                    QMetaObject::invokeMethod(files, &QDialog::accept, Qt::QueuedConnection);
+                },
+                [&](QWidget* d) {
+                    // The file dialog may still be on its way out, and Browse not yet
+                    // back with the folder.
+                    QLabel* note = child<QLabel>(d, u"driveFolderLabel"_s);
+                    afterwards(
+                        d, [note, stick] { return note->text().contains(stick); },
+                        [d] { pressOk(d); });
+                },
+                pressOk, // Backup Result
+            });
+            shell.trigger(command::backupMyData);
+            QCOMPARE(backup.seen(),
+                     u"Backup Options|The folder that drive F: stands for|Backup Options|Backup "
+                     u"Result"_s);
+        }
+        const QString backupFolder = stick + u"/MyCatData"_s;
+        const QString data = shell.dataFolder.path();
+        const QStringList dataFiles = filesIn(data);
+        QVERIFY(!dataFiles.isEmpty());
+        QCOMPARE(filesIn(backupFolder), dataFiles);
+
+        const QString changed = dataFiles.first();
+        const QByteArray backedUp = contentOf(backupFolder + u'/' + changed);
+        {
+            QFile file(data + u'/' + changed);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write("changed since the backup");
+        }
+        ModalAnswers restore({
+            [](QWidget* d) { clickLater(button(d, u"restoreHelpButton"_s)); },
+            press(QDialogButtonBox::Close), // the details
+            [](QWidget* d) { clickLater(button(d, u"restoreButton"_s)); },
+            pressOk, // Result
+        });
+        shell.trigger(command::restoreDataFromBackup);
+        QCOMPARE(restore.seen(),
+                 u"Restore Backup|Restore from Backup  (Details)|Restore Backup|Result"_s);
+        QCOMPARE(contentOf(data + u'/' + changed), backedUp);
+    }
+
+    void optionsDialogShowsTheEntriesAsTheRuleHandsThemBack()
+    {
+        std::vector<BackupOptions> handed;
+        BackupOptionsDialog options{"You have 3 Data Files totalling 900 Bytes.",
+                                    "estimate",
+                                    "reminder",
+                                    BackupOptions{BackupMedium::None, "MyCatData", "C"},
+                                    [&](BackupOptions& entries) {
+                                        handed.push_back(entries);
+                                        if (handed.size() > 1)
+                                            return FormVerdict::Accept;
+                                        // As the check does with a floppy drive typed as the other
+                                        // drive.
+                                        entries.medium = BackupMedium::Floppy;
+                                        showMessageBox(
+                                            Message{"Use the floppy option", "Wrong Button"},
+                                            QApplication::activeModalWidget());
+                                        return FormVerdict::StayOpen;
+                                    },
+                                    [](char) { return std::optional<std::string>(); },
+                                    [](char, const std::string&) { return true; }};
+        TDlg42 dialog(options);
+        ModalAnswers answers({
+            [](QWidget* d) {
+                button(d, u"otherDriveButton"_s)->click();
+                retype(d, u"folderEdit"_s, u"Spare"_s);
+                retype(d, u"driveEdit"_s, u"a"_s);
+                pressOk(d);
+            },
+            pressOk, // Wrong Button
+            [](QWidget* d) {
+                // Still open, the floppy choice ticked in sight, the other drive gone.
+                QVERIFY(d->isVisible());
+                QVERIFY(button(d, u"floppyButton"_s)->isVisible());
+                QVERIFY(button(d, u"floppyButton"_s)->isChecked());
+                QVERIFY(!button(d, u"otherDriveButton"_s)->isVisible());
+                QVERIFY(!edit(d, u"folderEdit"_s)->isVisible());
+                QVERIFY(child<QLabel>(d, u"floppyWarningLabel"_s)->isVisible());
+                pressOk(d);
+            },
+        });
+        dialog.exec();
+
+        QCOMPARE(answers.seen(), u"Backup Options|Wrong Button|Backup Options"_s);
+        QCOMPARE(dialog.verdict(), FormVerdict::Accept);
+        QCOMPARE(handed.size(), std::size_t{2});
+        QCOMPARE(handed[0], (BackupOptions{BackupMedium::OtherDrive, "Spare", "a"}));
+        QCOMPARE(handed[1], (BackupOptions{BackupMedium::Floppy, "Spare", "a"}));
+    }
+};
+
+QTEST_MAIN(BackupDialogsTest)
+#include "BackupDialogsTest.moc"
