@@ -42,8 +42,8 @@ Message driveNotSetUp(char letter)
 {
     const std::string drive{toUpper(letter)};
     return {"Drive " + drive +
-                ": is not set up on this computer.\nClick Browse beside the drive "
-                "letter to choose the folder that stands for drive " +
+                ": is not set up on this computer.\nClick Browse to choose the folder "
+                "that stands for drive " +
                 drive + ":.",
             "Drive Not Set Up", MessageIcon::Exclamation};
 }

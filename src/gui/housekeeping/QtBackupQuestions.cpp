@@ -1,6 +1,8 @@
 #include "gui/housekeeping/QtBackupQuestions.h"
 
 #include <algorithm>
+#include <limits>
+#include <limits>
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -99,17 +101,22 @@ bool QtBackupQuestions::showProgress(const std::string& text, int done, int tota
         progress_ = new QProgressDialog(parent());
         progress_->setObjectName(QStringLiteral("backupProgressDialog"));
         progress_->setWindowTitle(QStringLiteral("Purrlodge - Please Wait"));
-        progress_->setWindowModality(Qt::WindowModal);
+        // Application-modal, so the messages and questions of a disc change come
+        // up in front of it.
+        progress_->setWindowModality(Qt::ApplicationModal);
         progress_->setCancelButtonText(QStringLiteral("&Cancel"));
         // One dialog shows every stage of the work; only endProgress closes it.
         progress_->setAutoReset(false);
         progress_->setAutoClose(false);
-        progress_->setMinimumDuration(progressShownAfterMs);
+        // Shown by showProgress alone, never by a timer of its own: a timer
+        // could bring it up over a message asking for the next disc.
+        progress_->setMinimumDuration(std::numeric_limits<int>::max());
         // The clock towards showing the dialog starts at the first step.
         progress_->setRange(0, std::max(total, 0));
         progress_->setValue(0);
         cancelled_ = false;
         sinceEvents_.start();
+        sinceOpening_.start();
     }
     if (cancelled_ || progress_->wasCanceled()) {
         cancelled_ = true;
@@ -122,6 +129,8 @@ bool QtBackupQuestions::showProgress(const std::string& text, int done, int tota
     progress_->setLabelText(fromWindows1252(text));
     progress_->setRange(0, std::max(total, 0));
     progress_->setValue(std::clamp(done, 0, std::max(total, 0)));
+    if (!progress_->isVisible() && sinceOpening_.elapsed() >= progressShownAfterMs)
+        progress_->show();
     // Until the dialog shows, nothing stands between the person and the
     // window behind it: their clicks wait until it is up.
     QCoreApplication::processEvents(progress_->isVisible() ? QEventLoop::AllEvents

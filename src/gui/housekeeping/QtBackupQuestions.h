@@ -40,7 +40,8 @@ private:
 
     QPointer<QWidget> mainWindow_;
     QPointer<QProgressDialog> progress_;
-    QElapsedTimer sinceEvents_; // since the progress last let the window system in
+    QElapsedTimer sinceEvents_;  // since the progress last let the window system in
+    QElapsedTimer sinceOpening_; // since the progress began: it shows after a moment
     bool cancelled_ = false;
 };
 
