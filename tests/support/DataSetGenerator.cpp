@@ -114,6 +114,26 @@ ClientRecord makeClient(Picker& pick, int number)
     return client;
 }
 
+// The days charged and the money that makes up the account's final balance,
+// varied by the receipt number alone so the draws above stay as they were:
+// some accounts carry extras, a credit or a 10% discount.
+void fillCharges(AccountRecord& account, int number)
+{
+    account.daysCharged.set(static_cast<std::int32_t>(
+        dayCount(account.arrivalDate.str(), account.departureDate.str())));
+    const float extras = number % 3 == 0 ? 4.5f : 0.0f;
+    const float credit = number % 4 == 1 ? 20.0f : 0.0f;
+    const float percentage = number % 5 == 2 ? 10.0f : 0.0f;
+    const float netBoard = account.finalBalance.get() - extras + credit;
+    const float grossBoard = netBoard / (1.0f - percentage / 100.0f);
+    account.extrasAmount.set(extras);
+    account.creditAmount.set(credit);
+    account.discountPercentage.set(percentage);
+    account.grossBoard.set(grossBoard);
+    account.discountAmount.set(grossBoard - netBoard);
+    account.netBoard.set(netBoard);
+}
+
 // A full book of ten accounts numbered from `first`, a fortnight apart.
 AccountBook makeAccountBook(Picker& pick, const ClientRecord& client, int first)
 {
@@ -128,6 +148,7 @@ AccountBook makeAccountBook(Picker& pick, const ClientRecord& client, int first)
         account.catsBoarded.set(1);
         account.finalBalance.set(static_cast<float>(40 + pick.below(200)));
         account.currencySign = 0xA3;
+        fillCharges(account, first + slot);
     }
     return book;
 }

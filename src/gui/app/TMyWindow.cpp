@@ -19,6 +19,7 @@
 #include "app/commands/Exports.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
+#include "app/commands/PeriodReports.h"
 #include "app/commands/Printing.h"
 #include "app/commands/ShellToggles.h"
 #include "gui/app/ClockFace.h"
@@ -45,7 +46,8 @@ QIcon toolBarIcon(const QString& resource)
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
       accountQuestions_(this), backupQuestions_(this), exportQuestions_(this),
-      clockFace_(new ClockFace(session, this)), clockTimer_(new QTimer(this))
+      periodReportsQuestions_(this), clockFace_(new ClockFace(session, this)),
+      clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(clockFace_);
@@ -211,6 +213,8 @@ void TMyWindow::buildCommandTable()
     setCommand(command::markInactiveClients,
                [this] { markInactiveClients(session_, exportQuestions_); });
     setCommand(command::listUniqueNames, [this] { listUniqueNames(session_, exportQuestions_); });
+    setCommand(command::clientUsage,
+               [this] { showClientUsage(session_, periodReportsQuestions_); });
 
     // Print Jobs
     setCommand(command::admissionRegister,

@@ -13,6 +13,7 @@
 #include "gui/clients/QtClientQuestions.h"
 #include "gui/housekeeping/QtBackupQuestions.h"
 #include "gui/housekeeping/QtExportQuestions.h"
+#include "gui/housekeeping/QtPeriodReportsQuestions.h"
 
 class QAction;
 class QMenu;
@@ -78,6 +79,7 @@ private:
     QtAccountQuestions accountQuestions_;
     QtBackupQuestions backupQuestions_;
     QtExportQuestions exportQuestions_;
+    QtPeriodReportsQuestions periodReportsQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
