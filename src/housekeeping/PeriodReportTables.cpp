@@ -25,12 +25,19 @@ std::vector<std::string> moneyRow(std::string label, const MonthFigures& month)
 
 ReportTable financialSummary(const PeriodFigures& figures, unsigned char currencySign)
 {
+    // The currency in the headings, not a line of its own: a year's rows
+    // then fit one page. The months need no heading.
+    const std::string sign = currencySign != ' ' && currencySign != 0
+                                 ? std::string(" ") + static_cast<char>(currencySign)
+                                 : std::string();
     ReportTable table;
-    if (currencySign != ' ' && currencySign != 0)
-        table.subtitle = std::string("Amounts in ") + static_cast<char>(currencySign);
-    table.columns = {{"Month", 1, false},     {"Accounts", 11, true}, {"Board", 15, true},
-                     {"Discounts", 19, true}, {"Extras", 23, true},   {"Credits", 27, true},
-                     {"Balances", 31, true}};
+    table.columns = {{"", 1, false},
+                     {"Accounts", 10, true},
+                     {"Board" + sign, 15, true},
+                     {"Discounts" + sign, 19, true},
+                     {"Extras" + sign, 23, true},
+                     {"Credits" + sign, 27, true},
+                     {"Balances" + sign, 31, true}};
     for (const MonthFigures& month : figures.months)
         table.rows.push_back(moneyRow(monthLabel(month), month));
     table.rows.push_back(moneyRow("Total", figures.totals));
@@ -45,8 +52,8 @@ ReportTable daysUse(const PeriodFigures& figures)
     table.columns = {{"Month", 1, false},
                      {unitName(figures), 11, true},
                      {"Days", 14, true},
-                     {"Cats per day", 18, true},
-                     {"", 19, false}};
+                     {"Cats per day", 19, true},
+                     {"", 20, false}};
     std::int64_t largest = 0;
     for (const MonthFigures& month : figures.months)
         largest = std::max(largest, occupancyHundredths(month));

@@ -71,9 +71,12 @@ std::string clientName(const DataFolder& folder, const IndexEntry& entry)
     ClientRecord client;
     if (!readClientRecord(folder, entry.code.str(), client))
         return entry.key.str();
-    const std::string name =
-        trim(formatted("%s %s %s", client.style.str().c_str(), client.firstName.str().c_str(),
-                       client.surname.str().c_str()));
+    // Parts left empty leave no double blank behind.
+    std::string name;
+    for (const std::string& part :
+         {trim(client.style.str()), trim(client.firstName.str()), trim(client.surname.str())})
+        if (!part.empty())
+            name += (name.empty() ? "" : " ") + part;
     return name.empty() ? entry.key.str() : name;
 }
 

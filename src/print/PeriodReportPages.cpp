@@ -17,18 +17,27 @@ constexpr int pageRightColumn = 31;
 
 std::size_t headingSlots(const ReportTable& table, bool pageNumbers, bool catteryName)
 {
+    std::size_t headings = 0;
+    for (const ReportTable::Column& column : table.columns)
+        headings += column.heading.empty() ? 0 : 1;
     return (catteryName ? 1 : 0) + 2 + (pageNumbers ? 1 : 0) + (table.subtitle.empty() ? 0 : 1) +
-           table.columns.size();
+           headings;
 }
 
+// A row's cells at their columns: the first cell printed moves down a line,
+// the others share it. Empty cells take no slot.
 void addRow(PrintBuffer& buffer, const ReportTable& table, const std::vector<std::string>& cells,
             bool bold)
 {
+    bool first = true;
     for (std::size_t cell = 0; cell < cells.size() && cell < table.columns.size(); ++cell) {
+        if (cells[cell].empty())
+            continue;
         const ReportTable::Column& column = table.columns[cell];
         buffer.add(cells[cell],
                    formatted(bold ? "4b, %d, %d, 3, n, 000, %c" : "4, %d, %d, 3, n, 000, %c",
-                             column.column, cell == 0 ? 0 : -1, column.rightAligned ? 'R' : 'L'));
+                             column.column, first ? 0 : -1, column.rightAligned ? 'R' : 'L'));
+        first = false;
     }
 }
 
@@ -47,11 +56,20 @@ PeriodReportPages::PeriodReportPages(std::string title, std::string catteryName,
     : title_(std::move(title)), catteryName_(std::move(catteryName)), period_(std::move(period)),
       tables_(std::move(tables))
 {
-    // Rows are counted against the slots left under the heading of a page
-    // with page numbers, so every page is cut alike.
+    paginate(false);
+    if (pages_.size() > 1)
+        paginate(true); // the page numbers take a slot of every page
+    if (pages_.empty())
+        pages_.push_back({});
+}
+
+void PeriodReportPages::paginate(bool pageNumbers)
+{
+    pages_.clear();
     for (std::size_t table = 0; table < tables_.size(); ++table) {
         const ReportTable& t = tables_[table];
-        const std::size_t free = printSlotCount - headingSlots(t, true, !catteryName_.empty());
+        const std::size_t free =
+            printSlotCount - headingSlots(t, pageNumbers, !catteryName_.empty());
         const std::size_t perRow = std::max<std::size_t>(t.columns.size(), 1);
         const std::size_t rowsPerPage =
             std::max<std::size_t>(std::min(free / perRow, linesPerPage), 1);
@@ -62,8 +80,6 @@ PeriodReportPages::PeriodReportPages(std::string title, std::string catteryName,
             row = end;
         } while (row < t.rows.size());
     }
-    if (pages_.empty())
-        pages_.push_back({});
 }
 
 int PeriodReportPages::pageCount() const

@@ -26,7 +26,8 @@ struct ReportTable {
 // cattery's name, the report's title, the period (with "Page n of m" at the
 // right when there are several pages), then its part of one table under the
 // table's subtitle and headings. Each table starts a page of its own; a page
-// ends before the buffer's slots or the paper run out.
+// ends before the buffer's slots or the paper run out. An empty cell or
+// heading takes no slot, so a year's thirteen rows of seven cells fit a page.
 class PeriodReportPages {
 public:
     PeriodReportPages(std::string title, std::string catteryName, std::string period,
@@ -40,6 +41,9 @@ public:
     [[nodiscard]] const std::string& title() const { return title_; }
 
 private:
+    // Cuts the tables into pages, with room for page numbers or without.
+    void paginate(bool pageNumbers);
+
     struct Page {
         std::size_t table = 0;
         std::size_t firstRow = 0;

@@ -45,8 +45,7 @@ QTableWidget* newTable(const ReportTable& table, QWidget* parent)
             widget->setItem(static_cast<int>(row), static_cast<int>(cell), item);
         }
     }
-    widget->resizeColumnsToContents();
-    widget->horizontalHeader()->setStretchLastSection(true);
+    widget->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     return widget;
 }
 
@@ -125,11 +124,16 @@ QWidget* TDlgPeriodReports::newReportTab(const PeriodReportsView& view, PeriodRe
     chart->setObjectName(objectNameOf(report, "Chart"));
     fillChart(*chart, view, report);
     layout->addWidget(chart, 2);
+    // Two rankings stand side by side.
+    auto* tables = new QHBoxLayout;
     for (const ReportTable& table : view.tables[static_cast<std::size_t>(report)]) {
+        auto* column = new QVBoxLayout;
         if (!table.subtitle.empty())
-            layout->addWidget(new QLabel(fromWindows1252(table.subtitle), tab));
-        layout->addWidget(newTable(table, tab), 3);
+            column->addWidget(new QLabel(fromWindows1252(table.subtitle), tab));
+        column->addWidget(newTable(table, tab));
+        tables->addLayout(column);
     }
+    layout->addLayout(tables, 3);
     auto* printButton = new QPushButton(QStringLiteral("&Print"), tab);
     printButton->setObjectName(objectNameOf(report, "PrintButton"));
     connect(printButton, &QPushButton::clicked, this, [this, report] { print_(report); });
