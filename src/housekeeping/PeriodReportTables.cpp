@@ -32,11 +32,11 @@ ReportTable financialSummary(const PeriodFigures& figures, unsigned char currenc
                                  : std::string();
     ReportTable table;
     table.columns = {{"", 1, false},
-                     {"Accounts", 10, true},
-                     {"Board" + sign, 15, true},
-                     {"Discounts" + sign, 19, true},
-                     {"Extras" + sign, 23, true},
-                     {"Credits" + sign, 27, true},
+                     {"Accounts", 8, true},
+                     {"Board" + sign, 12, true},
+                     {"Discounts" + sign, 17, true},
+                     {"Extras" + sign, 21, true},
+                     {"Credits" + sign, 26, true},
                      {"Balances" + sign, 31, true}};
     for (const MonthFigures& month : figures.months)
         table.rows.push_back(moneyRow(monthLabel(month), month));

@@ -45,7 +45,9 @@ QTableWidget* newTable(const ReportTable& table, QWidget* parent)
             widget->setItem(static_cast<int>(row), static_cast<int>(cell), item);
         }
     }
-    widget->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // The first column (months, clients) takes the room the figures leave.
+    widget->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    widget->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     return widget;
 }
 
@@ -112,7 +114,7 @@ TDlgPeriodReports::TDlgPeriodReports(const PeriodReportsView& view,
     layout->addWidget(period);
     layout->addWidget(tabs_, 1);
     layout->addWidget(buttons);
-    resize(900, 680);
+    resize(1000, 700);
 }
 
 QWidget* TDlgPeriodReports::newReportTab(const PeriodReportsView& view, PeriodReport report)
