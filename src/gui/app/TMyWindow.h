@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "gui/accounts/QtAccountQuestions.h"
+#include "gui/app/QtHelpQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
 #include "gui/housekeeping/QtBackupQuestions.h"
@@ -78,6 +79,7 @@ private:
     QtAccountQuestions accountQuestions_;
     QtBackupQuestions backupQuestions_;
     QtExportQuestions exportQuestions_;
+    QtHelpQuestions helpQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
