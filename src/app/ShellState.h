@@ -14,7 +14,8 @@ inline constexpr int pictureCount = 21;
 inline constexpr std::string_view defaultPrintingFontName = "Times New Roman";
 
 // One pair of numbers per picture index 0..20, in index order, handed to the
-// picture display with the picture of the current index.
+// picture display with the picture of the current index: the picture's left
+// and top edge on the clock face, in pixels from the face's top-left corner.
 inline constexpr std::array<std::pair<int, int>, pictureCount> picturePlacements{{
     {20, 95}, {20, 95},  {30, 65}, {20, 95}, {20, 85},  {20, 95},  {20, 90},
     {20, 95}, {20, 105}, {20, 60}, {20, 65}, {20, 125}, {20, 115}, {20, 50},
@@ -29,7 +30,7 @@ struct ShellState {
     bool pictureNoteIndicator = true;              // musnotes: off when it contains "N"
     bool backupReminder = true;                    // RemStatus
     int pictureIndex = 0;                          // 0..20
-    std::array<bool, pictureCount> pictureFlags{}; // cleared at start-up
+    std::array<bool, pictureCount> pictureFlags{}; // set at start-up: which pictures have notes
     // Two further display flags, set to 1 at start-up for the main window's display.
     std::array<int, 2> furtherDisplayFlags{};
     // Set at start-up from picturePlacements.

@@ -6,6 +6,7 @@
 
 #include "accounts/CatteryFiles.h"
 #include "app/BackupAlert.h"
+#include "app/PictureNotes.h"
 #include "app/PictureRotation.h"
 #include "app/Session.h"
 #include "clients/ClientFormRules.h"
@@ -53,7 +54,8 @@ int prepareShellState(Session& session)
     session.shell.permittedNameCharacters = std::string(permittedNameCharacterSet);
     const CivilTime today = session.ports.clock.toLocal(session.ports.clock.now());
     session.currentYear = today.year;
-    session.shell.pictureFlags.fill(false);
+    // Every flag afresh: set for each picture that has a note, which offers it.
+    session.shell.pictureFlags = pictureNoteFlags();
     session.shell.furtherDisplayFlags.fill(1);
     return today.day;
 }

@@ -8,9 +8,11 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QRadialGradient>
 
 #include "app/Session.h"
+#include "gui/app/TDlgPictureNote.h"
 
 namespace purrlodge {
 
@@ -24,6 +26,9 @@ constexpr std::array<const char*, 12> monthNames = {
 
 const QColor ink(0x2b, 0x33, 0x40);
 const QColor accent(0xb8, 0x3b, 0x2e);
+
+// The picture-note indicator's side, in pixels.
+constexpr double indicatorSize = 88;
 
 // The point at `fraction` of a full turn clockwise from twelve, `length` from the centre.
 QPointF onDial(QPointF centre, double fraction, double length)
@@ -41,6 +46,11 @@ QFont fontOfPixelSize(const QString& family, double pixelSize, QFont::Weight wei
 }
 
 } // namespace
+
+bool ClockFace::showsPictureNoteIndicator() const
+{
+    return session_.shell.pictureNoteIndicator && session_.shell.pictureHasNotes();
+}
 
 ClockFace::ClockFace(const Session& session, QWidget* parent) : QWidget(parent), session_(session)
 {
@@ -61,7 +71,17 @@ void ClockFace::paintEvent(QPaintEvent*)
     const CivilTime now = session_.ports.clock.toLocal(session_.ports.clock.now());
     const QRectF whole = QRectF(rect()).adjusted(16, 16, -16, -16);
     const double dateHeight = std::clamp(whole.height() * 0.1, 18.0, 40.0);
-    const QRectF clockArea(whole.left(), whole.top(), whole.width(), whole.height() - dateHeight);
+    QRectF clockArea(whole.left(), whole.top(), whole.width(), whole.height() - dateHeight);
+    const bool indicator = showsPictureNoteIndicator();
+    if (indicator) {
+        // The clock keeps clear of the picture at its left, and stays centred.
+        const int left =
+            session_.shell.pictureTable[static_cast<std::size_t>(session_.shell.pictureIndex)]
+                .first;
+        const double reserve = std::max(0.0, left + indicatorSize + 8 - whole.left());
+        if (clockArea.width() > 2 * reserve)
+            clockArea.adjust(reserve, 0, -reserve, 0);
+    }
     const QRectF dateArea(whole.left(), clockArea.bottom(), whole.width(), dateHeight);
 
     if (session_.shell.digitalClock)
@@ -70,9 +90,7 @@ void ClockFace::paintEvent(QPaintEvent*)
         paintAnalog(painter, clockArea, now);
     paintDate(painter, dateArea, now);
 
-    const int picture = session_.shell.pictureIndex;
-    if (session_.shell.pictureNoteIndicator && picture >= 0 && picture < pictureCount &&
-        session_.shell.pictureFlags[static_cast<std::size_t>(picture)])
+    if (indicator)
         paintPictureNoteIndicator(painter);
 }
 
@@ -178,17 +196,35 @@ void ClockFace::paintDate(QPainter& painter, const QRectF& area, const CivilTime
 
 void ClockFace::paintPictureNoteIndicator(QPainter& painter) const
 {
-    const double size = 36;
-    const QRectF badge(width() - size - 12, 12, size, size);
-    painter.setPen(QPen(QColor(0x8a, 0x6d, 0x1f), 2));
+    // The current picture, small, at its place from the picture table: at the
+    // left, where a round or wide clock leaves room. A corner badge marks it
+    // as a note to read under Help | See Picture Notes.
+    const int picture = session_.shell.pictureIndex;
+    const auto [left, top] = session_.shell.pictureTable[static_cast<std::size_t>(picture)];
+    const QPixmap pixmap = notePicture(picture);
+    const QRectF frame(left, top, indicatorSize, indicatorSize);
+    if (!pixmap.isNull())
+        painter.drawPixmap(frame, pixmap, QRectF(pixmap.rect()));
+
+    const double badgeSize = indicatorSize * 0.34;
+    const QRectF badge(frame.right() - badgeSize * 0.75, frame.top() - badgeSize * 0.25, badgeSize,
+                       badgeSize);
+    painter.setPen(QPen(QColor(0x8a, 0x6d, 0x1f), 1.5));
     painter.setBrush(QColor(0xf6, 0xd3, 0x6b));
     painter.drawEllipse(badge);
     painter.setPen(ink);
     QFont noteFont = font();
-    noteFont.setPixelSize(static_cast<int>(size * 0.6));
+    noteFont.setPixelSize(static_cast<int>(badgeSize * 0.62));
+    noteFont.setBold(true);
     painter.setFont(noteFont);
-    painter.drawText(badge, Qt::AlignCenter,
-                     QString(QChar(0x266A))); // a note: there is a picture note
+    painter.drawText(badge, Qt::AlignCenter, QStringLiteral("i"));
+
+    QFont captionFont = font();
+    captionFont.setPixelSize(12);
+    painter.setFont(captionFont);
+    painter.setPen(ink);
+    painter.drawText(QRectF(frame.left() - 20, frame.bottom() + 2, frame.width() + 40, 16),
+                     Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("Picture note"));
 }
 
 } // namespace purrlodge

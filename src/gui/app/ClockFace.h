@@ -19,6 +19,10 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override { return {560, 400}; }
 
+    // Whether the picture-note indicator is drawn: it is switched on and the
+    // current picture has a note.
+    [[nodiscard]] bool showsPictureNoteIndicator() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

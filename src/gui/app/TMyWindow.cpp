@@ -17,6 +17,7 @@
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
 #include "app/commands/Exports.h"
+#include "app/commands/HelpPages.h"
 #include "app/commands/IssueAccount.h"
 #include "app/commands/PastAccounts.h"
 #include "app/commands/PeriodReports.h"
@@ -46,7 +47,7 @@ QIcon toolBarIcon(const QString& resource)
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
       accountQuestions_(this), backupQuestions_(this), exportQuestions_(this),
-      periodReportsQuestions_(this), clockFace_(new ClockFace(session, this)),
+      periodReportsQuestions_(this), helpQuestions_(this), clockFace_(new ClockFace(session, this)),
       clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -222,7 +223,17 @@ void TMyWindow::buildCommandTable()
 
     // Help
     setCommand(command::backupAdvice, [this] { backupAdvice(session_, backupQuestions_); });
+    setCommand(command::setupHelp, [this] { showHelpPage(helpQuestions_, HelpTopic::setupHelp); });
+    setCommand(command::seePictureNotes, [this] { seePictureNotes(session_, helpQuestions_); });
     setEnabler(command::seePictureNotes, [&session] { return session.shell.pictureHasNotes(); });
+    setCommand(command::colourPrintingHelp,
+               [this] { showHelpPage(helpQuestions_, HelpTopic::colourPrinting); });
+    setCommand(command::deletingAClientHelp,
+               [this] { showHelpPage(helpQuestions_, HelpTopic::deletingAClient); });
+    setCommand(command::changeDataDirectoryHelp,
+               [this] { showHelpPage(helpQuestions_, HelpTopic::changeDataDirectory); });
+    setCommand(command::emergencyHelp, [this] { emergencyHelp(session_, helpQuestions_); });
+    setCommand(command::about, [this] { about(helpQuestions_); });
 }
 
 void TMyWindow::setCommand(int commandId, std::function<void()> action)

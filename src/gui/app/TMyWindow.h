@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "gui/accounts/QtAccountQuestions.h"
+#include "gui/app/QtHelpQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
 #include "gui/housekeeping/QtBackupQuestions.h"
@@ -80,6 +81,7 @@ private:
     QtBackupQuestions backupQuestions_;
     QtExportQuestions exportQuestions_;
     QtPeriodReportsQuestions periodReportsQuestions_;
+    QtHelpQuestions helpQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
