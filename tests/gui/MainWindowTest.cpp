@@ -123,7 +123,7 @@ private slots:
     void itemsAreGreyedEnabledTickedAndRunAsTheSessionSays()
     {
         ShellFixture shell;
-        for (const int waiting : {command::clientUsage, command::listAllClients, command::about})
+        for (const int waiting : {command::clientUsage, command::about})
             for (const QAction* action : shell.window.actionsFor(waiting))
                 QVERIFY2(!action->isEnabled(), qPrintable(action->objectName()));
 

@@ -10,6 +10,7 @@
 
 #include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
+#include "gui/clients/QtClientListQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
 #include "gui/housekeeping/QtBackupQuestions.h"
 #include "gui/housekeeping/QtExportQuestions.h"
@@ -78,6 +79,7 @@ private:
     QtAccountQuestions accountQuestions_;
     QtBackupQuestions backupQuestions_;
     QtExportQuestions exportQuestions_;
+    QtClientListQuestions clientListQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;
