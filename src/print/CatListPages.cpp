@@ -7,9 +7,18 @@ namespace purrlodge {
 
 namespace {
 
-// Cat, breed, colour, sex, age and owner: 7.75 inches in all.
-const std::vector<ListColumn> catColumns{{"Cat", 0, 5},  {"Breed", 5, 5}, {"Colour", 10, 6},
-                                         {"Sex", 16, 2}, {"Age", 18, 2},  {"Owner", 20, 11}};
+// Cat with its sex and age, colour and breed, owner: 7.75 inches in all. A
+// text a column, so that a page of the print buffer holds some thirty cats.
+const std::vector<ListColumn> catColumns{
+    {"Cat (sex, age)", 0, 7}, {"Colour and breed", 7, 10}, {"Owner", 17, 14}};
+
+// "Tibbles (F, 7)", with "?" for what is not known.
+std::string catWithSexAndAge(const ClientRecord& client, int slot, int currentYear)
+{
+    const std::string age = catAge(client, slot, currentYear);
+    return trim(client.catName[slot].str()) + " (" + catSex(client, slot) + ", " +
+           (age == "??" ? "?" : age) + ")";
+}
 
 } // namespace
 
@@ -24,11 +33,10 @@ ListPages catListPages(const ClientListContext& context, const std::vector<Liste
         for (int slot = 0; slot < catSlotCount; ++slot) {
             if (!isCatSlotUsed(client, slot))
                 continue;
-            block.rows.push_back({trim(client.catName[slot].str()),
-                                  trim(client.catBreed[slot].str()),
-                                  trim(client.catColour[slot].str()), catSex(client, slot),
-                                  catAge(client, slot, currentYear),
-                                  block.rows.empty() ? ownerName(client) : std::string()});
+            block.rows.push_back(
+                {catWithSexAndAge(client, slot, currentYear),
+                 trim(trim(client.catColour[slot].str()) + ' ' + trim(client.catBreed[slot].str())),
+                 block.rows.empty() ? ownerName(client) : std::string()});
         }
         cats += block.rows.size();
         // A client with no cats has nothing to show here.

@@ -21,6 +21,9 @@ constexpr int linesPerPage = 60;
 constexpr int pageRightColumn = 31;
 
 constexpr std::string_view gapFormat = "5, 0, 0, 4, n, 000, A";
+// Blocks are set apart by this much above each, in device units: a slot for a
+// blank line between them would cost a tenth of a page's slots.
+constexpr int blockGap = 50;
 
 std::size_t filledCells(const ListRow& row)
 {
@@ -37,7 +40,7 @@ std::size_t slotsOf(const ListRow& row)
 // The row's texts at their columns: the first moves down a line, the others
 // share it.
 void addRow(PrintBuffer& buffer, const std::vector<ListColumn>& columns, const ListRow& row,
-            bool bold)
+            bool bold, int offset = 0)
 {
     bool first = true;
     for (std::size_t column = 0; column < columns.size() && column < row.size(); ++column) {
@@ -47,11 +50,11 @@ void addRow(PrintBuffer& buffer, const std::vector<ListColumn>& columns, const L
         const double room = columns[column].width / 4.0 - 0.08;
         buffer.add(cutToWidth(row[column], cellFont, room),
                    formatted(bold ? "5b, %d, %d, 4, n, 000, A" : "5, %d, %d, 4, n, 000, A",
-                             columns[column].column, first ? 0 : -1));
+                             columns[column].column, first ? offset : -1));
         first = false;
     }
     if (first)
-        buffer.add(" ", gapFormat);
+        buffer.add(" ", formatted("5, 0, %d, 4, n, 000, A", offset));
 }
 
 ListRow headingRow(const std::vector<ListColumn>& columns)
@@ -86,8 +89,9 @@ ListPages::ListPages(ListHeading heading, std::vector<ListColumn> columns,
       emptyText_(std::move(emptyText))
 {
     // A new page begins when the next block would take the page past its
-    // lines or the buffer past its slots; each block is followed by a blank
-    // line. A block too big for an empty page still goes on a page of its own.
+    // lines or the buffer past its slots; the gap above each block is counted
+    // as a line. A block too big for an empty page still goes on a page of its
+    // own.
     PrintBuffer top;
     addPageHeading(top, heading_, columns_, 1, 1);
     const auto headingSlots = static_cast<std::size_t>(top.count);
@@ -95,7 +99,7 @@ ListPages::ListPages(ListHeading heading, std::vector<ListColumn> columns,
     std::size_t slots = headingSlots;
     std::size_t lines = 0;
     for (std::size_t block = 0; block < blocks_.size(); ++block) {
-        std::size_t blockSlots = 1;
+        std::size_t blockSlots = 0;
         for (const ListRow& row : blocks_[block].rows)
             blockSlots += slotsOf(row);
         const std::size_t blockLines = blocks_[block].rows.size() + 1;
@@ -135,9 +139,9 @@ void ListPages::fillPage(PrintBuffer& buffer, int page) const
     }
     const auto [first, end] = blocksOfPage(page);
     for (std::size_t block = first; block < end; ++block) {
-        for (const ListRow& row : blocks_[block].rows)
-            addRow(buffer, columns_, row, false);
-        buffer.add(" ", gapFormat);
+        const auto& rows = blocks_[block].rows;
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            addRow(buffer, columns_, rows[row], false, row == 0 ? blockGap : 0);
     }
 }
 

@@ -33,7 +33,7 @@ struct ListHeading {
 
 // A list over as many pages as its blocks need: each page has the cattery's
 // name, the title, the subtitle with "Page n of m" at the right, the column
-// headings, then the blocks in order with a blank line after each, a block
+// headings, then the blocks in order with a little space above each, a block
 // never split across two pages. Each text is cut to its column. A list with
 // no blocks is one page saying `emptyText`.
 class ListPages {

@@ -44,8 +44,7 @@ protected:
     ScriptedClientListQuestions questions;
 };
 
-// The texts at the list's first column, in page order: what each block
-// begins with (the headings are bold, the blank lines blank).
+// The texts that begin a block at the list's first column, in page order.
 Lines firstColumnTexts(const ListPages& pages, PrintBuffer& buffer)
 {
     Lines texts;
@@ -53,7 +52,7 @@ Lines firstColumnTexts(const ListPages& pages, PrintBuffer& buffer)
         pages.fillPage(buffer, page);
         for (int slot = 0; slot < buffer.count; ++slot) {
             const auto index = static_cast<std::size_t>(slot);
-            if (buffer.formats[index] == "5, 0, 0, 4, n, 000, A" && buffer.texts[index] != " ")
+            if (buffer.formats[index] == "5, 0, 50, 4, n, 000, A")
                 texts.push_back(buffer.texts[index]);
         }
     }
