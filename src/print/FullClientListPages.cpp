@@ -1,4 +1,5 @@
 #include "clients/ClientDetails.h"
+#include "clients/ClientFormRules.h"
 #include "ports/Clock.h"
 #include "print/ClientListPages.h"
 #include "store/CatSlots.h"
@@ -35,7 +36,8 @@ std::string catLine(const ClientRecord& client, int slot, int currentYear, const
         line += ",  " + looks;
     line += ",  " + std::string(chipWord(client.catMicrochip[slot].get())) + " / " +
             std::string(insuranceWord(client.catInsurance[slot].get()));
-    line += ",  Last Vac: " + monthAndYearText(client.catLastVaccination[slot].get(), clock);
+    const std::int32_t vaccinated = client.catLastVaccination[slot].get();
+    line += ",  Last Vac: " + (vaccinated > 0 ? monthAndYearText(vaccinated, clock) : "not known");
     return line;
 }
 
@@ -89,11 +91,18 @@ ListBlock clientBlock(const ListedClient& listed, int currentYear, const Clock& 
     addLines(block, "Cats", cats.empty() ? std::vector<std::string>{"None"} : cats);
     addLines(block, "Likes", foodLines(client, client.favouriteFoods));
     addLines(block, "Doesn't Like", foodLines(client, client.forbiddenFoods));
-    std::vector<std::string> notes;
-    for (const auto& note : client.notes)
-        if (hasLetterOrDigit(note.str()))
-            notes.push_back(trim(note.str()));
-    addLines(block, "Notes", notes);
+    // A red notes line prints in red, without its marker.
+    bool firstNote = true;
+    for (const auto& note : client.notes) {
+        if (!hasLetterOrDigit(note.str()))
+            continue;
+        const bool red = contains(note.str(), redNoteMarker);
+        block.redRows.resize(block.rows.size());
+        block.redRows.push_back(red);
+        addLine(block, firstNote ? "Notes" : "",
+                trim(red ? textAfter(note.str(), redNoteMarker) : note.str()));
+        firstNote = false;
+    }
     addLine(block, "Last Visit", visit(client.arrivalDate, client.departureDate));
     addLine(block, "Previous Visit", visit(client.lastInDate, client.lastOutDate));
     std::string registered = "Not Recorded";

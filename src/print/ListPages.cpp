@@ -40,7 +40,7 @@ std::size_t slotsOf(const ListRow& row)
 // The row's texts at their columns: the first moves down a line, the others
 // share it.
 void addRow(PrintBuffer& buffer, const std::vector<ListColumn>& columns, const ListRow& row,
-            bool bold, int offset = 0)
+            bool bold, int offset = 0, bool red = false)
 {
     bool first = true;
     for (std::size_t column = 0; column < columns.size() && column < row.size(); ++column) {
@@ -49,8 +49,8 @@ void addRow(PrintBuffer& buffer, const std::vector<ListColumn>& columns, const L
         // A little is kept clear before the next column.
         const double room = columns[column].width / 4.0 - 0.08;
         buffer.add(cutToWidth(row[column], cellFont, room),
-                   formatted(bold ? "5b, %d, %d, 4, n, 000, A" : "5, %d, %d, 4, n, 000, A",
-                             columns[column].column, first ? offset : -1));
+                   formatted(bold ? "5b, %d, %d, 4, n, %s, A" : "5, %d, %d, 4, n, %s, A",
+                             columns[column].column, first ? offset : -1, red ? "900" : "000"));
         first = false;
     }
     if (first)
@@ -141,7 +141,8 @@ void ListPages::fillPage(PrintBuffer& buffer, int page) const
     for (std::size_t block = first; block < end; ++block) {
         const auto& rows = blocks_[block].rows;
         for (std::size_t row = 0; row < rows.size(); ++row)
-            addRow(buffer, columns_, rows[row], false, row == 0 ? blockGap : 0);
+            addRow(buffer, columns_, rows[row], false, row == 0 ? blockGap : 0,
+                   blocks_[block].isRed(row));
     }
 }
 

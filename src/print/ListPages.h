@@ -22,6 +22,10 @@ using ListRow = std::vector<std::string>;
 // The lines of one entry (a client, say), kept together on one page.
 struct ListBlock {
     std::vector<ListRow> rows;
+    // The rows printed in red (a red notes line); none when empty.
+    std::vector<bool> redRows;
+
+    [[nodiscard]] bool isRed(std::size_t row) const { return row < redRows.size() && redRows[row]; }
 };
 
 // What heads every page of a list besides its column headings.

@@ -124,6 +124,8 @@ TEST_F(ClientListPagesTest, TheCatListHasACatALineAndLeavesOutClientsWithoutCats
 TEST_F(ClientListPagesTest, TheFullListHoldsEverythingOfEachClient)
 {
     clients.resize(1);
+    clients[0].record.notes[1].set("#R# Diabetic - insulin");
+    clients[0].record.catLastVaccination[1].set(0);
     EXPECT_EQ(pageTexts(fullClientListPages(context, clients)),
               (Lines{"Whiskers Lodge",
                      "Full Client List",
@@ -146,11 +148,12 @@ TEST_F(ClientListPagesTest, TheFullListHoldsEverythingOfEachClient)
                      "Vet",
                      "Cats",
                      "Tibbles  [F]  Age 7,  Cream Persian,  Chip? / Ins?,  Last Vac: 03/25",
-                     "Smudge  [m]  Age ??,  Black Moggy,  Chip? / Ins?,  Last Vac: 03/25",
+                     "Smudge  [m]  Age ??,  Black Moggy,  Chip? / Ins?,  Last Vac: not known",
                      "Likes",
                      "Tibbles: Fish, Chicken",
                      "Notes",
                      "Nervous of dogs",
+                     "Diabetic - insulin",
                      "Last Visit",
                      "01/10/26 -> 08/10/26",
                      "Previous Visit",
@@ -161,6 +164,10 @@ TEST_F(ClientListPagesTest, TheFullListHoldsEverythingOfEachClient)
                      "Active",
                      "Code",
                      "SMITH001"}));
+    // The red notes line alone prints in red.
+    EXPECT_EQ(buffer.formats[25], "5, 6, -1, 4, n, 000, A");
+    EXPECT_EQ(buffer.formats[26], "5, 6, 0, 4, n, 900, A");
+    EXPECT_EQ(buffer.formats[27], "5, 0, 0, 4, n, 000, A") << "Last Visit";
 }
 
 TEST_F(ClientListPagesTest, TheListingHoldsTheActiveOrTheInactiveClientsOnly)

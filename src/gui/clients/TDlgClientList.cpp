@@ -96,11 +96,15 @@ void TDlgClientList::showList()
     for (const ListBlock& block : pages.blocks()) {
         if (!items.isEmpty())
             items << new QTreeWidgetItem;
-        for (const ListRow& row : block.rows) {
+        for (std::size_t row = 0; row < block.rows.size(); ++row) {
             QStringList cells;
-            for (const std::string& cell : row)
+            for (const std::string& cell : block.rows[row])
                 cells << fromWindows1252(cell);
-            items << new QTreeWidgetItem(cells);
+            auto* item = new QTreeWidgetItem(cells);
+            if (block.isRed(row))
+                for (int column = 0; column < item->columnCount(); ++column)
+                    item->setForeground(column, Qt::red);
+            items << item;
         }
     }
     list_->addTopLevelItems(items);
