@@ -32,9 +32,13 @@ ListBlock listingBlock(const ClientRecord& client)
         if (row == 0) {
             cells[Name] = ownerName(client);
             cells[Telephone] = trim(client.telephone.str());
+            // The most recent visit, or the one before it when none is set.
             if (hasLetterOrDigit(client.arrivalDate.str()))
                 cells[LastVisit] =
                     trim(client.arrivalDate.str()) + " - " + trim(client.departureDate.str());
+            else if (hasLetterOrDigit(client.lastInDate.str()))
+                cells[LastVisit] =
+                    trim(client.lastInDate.str()) + " - " + trim(client.lastOutDate.str());
         }
         block.rows.push_back(std::move(cells));
     }

@@ -103,7 +103,7 @@ ListBlock clientBlock(const ListedClient& listed, int currentYear, const Clock& 
                 trim(red ? textAfter(note.str(), redNoteMarker) : note.str()));
         firstNote = false;
     }
-    addLine(block, "Last Visit", visit(client.arrivalDate, client.departureDate));
+    addLine(block, "Recent Visit", visit(client.arrivalDate, client.departureDate));
     addLine(block, "Previous Visit", visit(client.lastInDate, client.lastOutDate));
     std::string registered = "Not Recorded";
     if (client.firstRegistered.get() > 0) {

@@ -59,6 +59,8 @@ std::vector<ListedClient> threeClients()
     bob.surname.set("Jones");
     bob.address[0].set("The Mill");
     bob.telephone.set("555 1234");
+    bob.lastInDate.set("02/02/24");
+    bob.lastOutDate.set("09/02/24");
     setCat(bob, 0, "Kit", "", "Tabby", 0, 2024);
     bob.inactive.set(1);
 
@@ -154,7 +156,7 @@ TEST_F(ClientListPagesTest, TheFullListHoldsEverythingOfEachClient)
                      "Notes",
                      "Nervous of dogs",
                      "Diabetic - insulin",
-                     "Last Visit",
+                     "Recent Visit",
                      "01/10/26 -> 08/10/26",
                      "Previous Visit",
                      "Not Recorded",
@@ -167,7 +169,7 @@ TEST_F(ClientListPagesTest, TheFullListHoldsEverythingOfEachClient)
     // The red notes line alone prints in red.
     EXPECT_EQ(buffer.formats[25], "5, 6, -1, 4, n, 000, A");
     EXPECT_EQ(buffer.formats[26], "5, 6, 0, 4, n, 900, A");
-    EXPECT_EQ(buffer.formats[27], "5, 0, 0, 4, n, 000, A") << "Last Visit";
+    EXPECT_EQ(buffer.formats[27], "5, 0, 0, 4, n, 000, A") << "Recent Visit";
 }
 
 TEST_F(ClientListPagesTest, TheListingHoldsTheActiveOrTheInactiveClientsOnly)
@@ -180,7 +182,7 @@ TEST_F(ClientListPagesTest, TheListingHoldsTheActiveOrTheInactiveClientsOnly)
     EXPECT_EQ(pageTexts(clientListingPages(context, clients, ClientStatus::Inactive)),
               (Lines{"Whiskers Lodge", "Inactive Clients", "25/11/26   -   1 inactive client",
                      "Page 1 of 1", " ", "Name", "Telephone", "Cats", "Last Visit", " ",
-                     "Mr Bob Jones", "555 1234", "Kit"}));
+                     "Mr Bob Jones", "555 1234", "Kit", "02/02/24 - 09/02/24"}));
 
     clients[1].record.inactive.set(0);
     const ListPages none = clientListingPages(context, clients, ClientStatus::Inactive);
