@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "print/PrintBuffer.h"
-#include "print/PrintedWidth.h"
 #include "store/CivilCalendar.h"
 #include "support/FakePorts.h"
 
@@ -188,21 +187,6 @@ TEST_F(ClientListPagesTest, TheListingHoldsTheActiveOrTheInactiveClientsOnly)
     const ListPages none = clientListingPages(context, clients, ClientStatus::Inactive);
     EXPECT_TRUE(none.blocks().empty());
     EXPECT_EQ(pageTexts(none).back(), "No current client is inactive.");
-}
-
-TEST_F(ClientListPagesTest, ALongTextIsCutToItsColumn)
-{
-    clients[0].record.firstName.set("Anastasia-Josephine");
-    clients[0].record.surname.set("Featherstonehaugh-Smythe");
-    const std::string name = ownerName(clients[0].record);
-    pageTexts(peopleListPages(context, clients));
-    const std::string& printed = buffer.texts[10];
-    EXPECT_LT(printed.size(), name.size());
-    EXPECT_EQ(name.rfind(printed, 0), 0u);
-    // The name column is 2 inches, less a little kept clear.
-    EXPECT_LE(printedWidth(printed, {4, 5}), 1.92);
-    const std::size_t nextLetter = name.find_first_not_of(' ', printed.size());
-    EXPECT_GT(printedWidth(name.substr(0, nextLetter + 1), {4, 5}), 1.92);
 }
 
 } // namespace

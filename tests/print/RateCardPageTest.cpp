@@ -9,6 +9,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+// "\243" is the pound sign and "\200" the euro sign of Windows-1252.
+
 class RateCardPageTest : public ::testing::Test {
 protected:
     RateCardPageTest()
@@ -58,34 +60,23 @@ TEST_F(RateCardPageTest, InSterlingEachAmountHasItsEuroEquivalentWhileEurosAreSh
                                    "Per day",
                                    "In euros",
                                    "1 cat",
-                                   "\xA3"
-                                   "12.50",
-                                   "(\x80"
-                                   "14.71)",
+                                   "\24312.50",
+                                   "(\20014.71)",
                                    "2 cats",
-                                   "\xA3"
-                                   "20.00",
-                                   "(\x80"
-                                   "23.53)",
+                                   "\24320.00",
+                                   "(\20023.53)",
                                    "3 cats",
-                                   "\xA3"
-                                   "27.00",
-                                   "(\x80"
-                                   "31.76)",
+                                   "\24327.00",
+                                   "(\20031.76)",
                                    "6 cats",
-                                   "\xA3"
-                                   "40.00",
-                                   "(\x80"
-                                   "47.06)",
+                                   "\24340.00",
+                                   "(\20047.06)",
                                    " ",
                                    "Heating",
-                                   "\xA3"
-                                   "1.50",
-                                   "(\x80"
-                                   "1.76)",
+                                   "\2431.50",
+                                   "(\2001.76)",
                                    " ",
-                                   "Exchange rate \x80"
-                                   "1 = 85.0p"}));
+                                   "Exchange rate \2001 = 85.0p"}));
     // Amounts end at one right edge; each row starts again from the left.
     EXPECT_EQ(buffer.formats[12], "3, 9, 40, 1, n, 000, L");
     EXPECT_EQ(buffer.formats[13], "3, 20, -1, 1, n, 000, R");
@@ -94,22 +85,9 @@ TEST_F(RateCardPageTest, InSterlingEachAmountHasItsEuroEquivalentWhileEurosAreSh
 
 TEST_F(RateCardPageTest, EurosAreLeftOutWhenOffOrWithNoRateSet)
 {
-    const Lines sterlingOnly =
-        withHeading({"Our daily rates, charged per day", " ", "Cats", "Per day", "1 cat",
-                     "\xA3"
-                     "12.50",
-                     "2 cats",
-                     "\xA3"
-                     "20.00",
-                     "3 cats",
-                     "\xA3"
-                     "27.00",
-                     "6 cats",
-                     "\xA3"
-                     "40.00",
-                     " ", "Heating",
-                     "\xA3"
-                     "1.50"});
+    const Lines sterlingOnly = withHeading(
+        {"Our daily rates, charged per day", " ", "Cats", "Per day", "1 cat", "\24312.50", "2 cats",
+         "\24320.00", "3 cats", "\24327.00", "6 cats", "\24340.00", " ", "Heating", "\2431.50"});
     euro.showEuros.set(0);
     EXPECT_EQ(card(), sterlingOnly);
     euro.showEuros.set(1);
@@ -131,11 +109,8 @@ TEST_F(RateCardPageTest, OtherCurrenciesPerNightShowNoEurosAndOnlyTheRatesSet)
     rates.currency.set(static_cast<std::uint32_t>(Currency::Euros));
     rates.standardExtraCharge.set(2.0f);
     const Lines euros = card();
-    EXPECT_EQ(euros[12], "\x80"
-                         "12.50");
-    EXPECT_EQ(Lines(euros.end() - 3, euros.end()), (Lines{" ", "Standard extra",
-                                                          "\x80"
-                                                          "2.00"}));
+    EXPECT_EQ(euros[12], "\20012.50");
+    EXPECT_EQ(Lines(euros.end() - 3, euros.end()), (Lines{" ", "Standard extra", "\2002.00"}));
 
     for (auto& rate : rates.presentRate)
         rate.set(0.0f);
