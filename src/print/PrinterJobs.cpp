@@ -26,8 +26,16 @@ void tellWherePrintoutsWent(Printer& printer, Ui& ui)
                              "file:\n\n"
                            : "There is no printer installed, so the printouts were saved as PDF "
                              "files:\n\n";
-    for (const std::string& file : files)
-        text += file + "\n";
+    // A long printout is a file a page: the first and the last stand for the
+    // rest, so the message still fits the screen.
+    constexpr std::size_t mostListed = 4;
+    if (files.size() <= mostListed) {
+        for (const std::string& file : files)
+            text += file + "\n";
+    } else {
+        text += files.front() + "\n...\n" + files.back() + "\n(" + std::to_string(files.size()) +
+                " files, one for each page)\n";
+    }
     text += "\nOpen a file to see it, or print it on a computer that has a printer.";
     ui.showMessage({text, "Printout Saved", MessageIcon::Information});
 }

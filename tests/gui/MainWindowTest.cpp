@@ -123,7 +123,8 @@ private slots:
     void itemsAreGreyedEnabledTickedAndRunAsTheSessionSays()
     {
         ShellFixture shell;
-        for (const int waiting : {command::listAllClients, command::clientLists})
+        // Nothing is pending to print yet.
+        for (const int waiting : {command::runPendingPrintout})
             for (const QAction* action : shell.window.actionsFor(waiting))
                 QVERIFY2(!action->isEnabled(), qPrintable(action->objectName()));
 

@@ -14,6 +14,7 @@
 #include "app/Session.h"
 #include "app/commands/ArrivalSheet.h"
 #include "app/commands/BackupAndRestore.h"
+#include "app/commands/ClientLists.h"
 #include "app/commands/ClientNotes.h"
 #include "app/commands/ClientRemoval.h"
 #include "app/commands/Exports.h"
@@ -47,8 +48,8 @@ QIcon toolBarIcon(const QString& resource)
 TMyWindow::TMyWindow(Session& session, QWidget* parent)
     : QMainWindow(parent), session_(session), setupQuestions_(this), clientQuestions_(this),
       accountQuestions_(this), backupQuestions_(this), exportQuestions_(this),
-      periodReportsQuestions_(this), helpQuestions_(this), clockFace_(new ClockFace(session, this)),
-      clockTimer_(new QTimer(this))
+      periodReportsQuestions_(this), helpQuestions_(this), clientListQuestions_(this),
+      clockFace_(new ClockFace(session, this)), clockTimer_(new QTimer(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(clockFace_);
@@ -216,6 +217,11 @@ void TMyWindow::buildCommandTable()
     setCommand(command::listUniqueNames, [this] { listUniqueNames(session_, exportQuestions_); });
     setCommand(command::clientUsage,
                [this] { showClientUsage(session_, periodReportsQuestions_); });
+
+    // The client lists and the rate card
+    setCommand(command::listAllClients, [this] { listAllClients(session_, clientListQuestions_); });
+    setCommand(command::clientLists, [this] { printClientLists(session_, clientListQuestions_); });
+    setCommand(command::printCurrentRates, [this] { printCurrentRates(session_); });
 
     // Print Jobs
     setCommand(command::admissionRegister,

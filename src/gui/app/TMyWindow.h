@@ -11,6 +11,7 @@
 #include "gui/accounts/QtAccountQuestions.h"
 #include "gui/app/QtHelpQuestions.h"
 #include "gui/app/QtSetupQuestions.h"
+#include "gui/clients/QtClientListQuestions.h"
 #include "gui/clients/QtClientQuestions.h"
 #include "gui/housekeeping/QtBackupQuestions.h"
 #include "gui/housekeeping/QtExportQuestions.h"
@@ -82,6 +83,7 @@ private:
     QtExportQuestions exportQuestions_;
     QtPeriodReportsQuestions periodReportsQuestions_;
     QtHelpQuestions helpQuestions_;
+    QtClientListQuestions clientListQuestions_;
     ClockFace* clockFace_;
     QTimer* clockTimer_;
     std::map<int, Command> commands_;

@@ -4,6 +4,7 @@
 #include "accounts/CatteryFiles.h"
 #include "app/Session.h"
 #include "app/commands/Printing.h"
+#include "print/PrinterJobs.h"
 #include "support/FakePorts.h"
 #include "support/FakeQuestions.h"
 #include "support/TempFolder.h"
@@ -49,6 +50,21 @@ TEST_F(PrintingCommandsTest, ThePairIsToldInOneMessageAndACancelledAccountInNone
     fakes.printer.outcomes = {PrintOutcome::Cancelled};
     EXPECT_FALSE(printAccountAndCopy(session, {}));
     EXPECT_TRUE(fakes.ui.messages.empty()) << "nothing was saved";
+}
+
+TEST_F(PrintingCommandsTest, AFilePerPageOfALongPrintoutIsToldByItsFirstAndLast)
+{
+    const std::vector<std::string> files{"/docs/p.pdf", "/docs/p (2).pdf", "/docs/p (3).pdf",
+                                         "/docs/p (4).pdf", "/docs/p (5).pdf"};
+    fakes.printer.savedFiles.assign(files.begin(), files.begin() + 4);
+    tellWherePrintoutsWent(fakes.printer, fakes.ui);
+    EXPECT_NE(fakes.ui.messages.back().text.find("/docs/p (3).pdf\n"), std::string::npos);
+    fakes.printer.savedFiles = files;
+    tellWherePrintoutsWent(fakes.printer, fakes.ui);
+    const std::string& told = fakes.ui.messages.back().text;
+    EXPECT_EQ(told.find("(3)"), std::string::npos);
+    EXPECT_NE(told.find("/docs/p.pdf\n...\n/docs/p (5).pdf\n(5 files, one for each page)"),
+              std::string::npos);
 }
 
 TEST_F(PrintingCommandsTest, TheToolBarJobRunsWithTheDialogOnlyOnceAJobHasShownIt)
