@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "gui/FieldEdit.h"
+#include "gui/PeriodRows.h"
 
 namespace purrlodge {
 
@@ -15,21 +16,12 @@ TDlgRegisterPeriod::TDlgRegisterPeriod(const RegisterPeriod& initial, OkRule<Reg
     setWindowTitle(QStringLiteral("Admission Register"));
 
     // The period's dates are typed as a stay's are.
-    fromEdit_ = newFieldEdit(QStringLiteral("fromDateEdit"), stayDateTypedLimit + 1, this);
-    toEdit_ = newFieldEdit(QStringLiteral("toDateEdit"), stayDateTypedLimit + 1, this);
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) * 3 / 2;
-    fromEdit_->setFixedWidth(width);
-    toEdit_->setFixedWidth(width);
-
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&From"), fromEdit_);
-    form->addRow(QStringLiteral("&To"), toEdit_);
+    const PeriodEdits edits =
+        addPeriodRows(*form, stayDateTypedLimit, initial.from, initial.to, this);
+    fromEdit_ = edits.from;
+    toEdit_ = edits.to;
     layOutRows(form);
-
-    setFieldText(*fromEdit_, initial.from);
-    setFieldText(*toEdit_, initial.to);
-    fromEdit_->setFocus();
-    fromEdit_->selectAll();
 }
 
 RegisterPeriod TDlgRegisterPeriod::period() const

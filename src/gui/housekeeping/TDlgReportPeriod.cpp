@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "gui/FieldEdit.h"
+#include "gui/PeriodRows.h"
 
 namespace purrlodge {
 
@@ -22,12 +23,6 @@ TDlgReportPeriod::TDlgReportPeriod(const ReportPeriod& initial, OkRule<ReportPer
     setObjectName(QStringLiteral("reportPeriodDialog"));
     setWindowTitle(QStringLiteral("Client Usage"));
 
-    fromEdit_ = newFieldEdit(QStringLiteral("fromDateEdit"), dateFieldLimit + 1, this);
-    toEdit_ = newFieldEdit(QStringLiteral("toDateEdit"), dateFieldLimit + 1, this);
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) * 3 / 2;
-    fromEdit_->setFixedWidth(width);
-    toEdit_->setFixedWidth(width);
-
     auto* note =
         new QLabel(QStringLiteral("Type the first and last days of the period as dd/mm/yy.\n"
                                   "Accounts are counted by their arrival date;\n"
@@ -35,14 +30,10 @@ TDlgReportPeriod::TDlgReportPeriod(const ReportPeriod& initial, OkRule<ReportPer
                    this);
     auto* form = new QFormLayout;
     form->addRow(note);
-    form->addRow(QStringLiteral("&From"), fromEdit_);
-    form->addRow(QStringLiteral("&To"), toEdit_);
+    const PeriodEdits edits = addPeriodRows(*form, dateFieldLimit, initial.from, initial.to, this);
+    fromEdit_ = edits.from;
+    toEdit_ = edits.to;
     layOutRows(form);
-
-    setFieldText(*fromEdit_, initial.from);
-    setFieldText(*toEdit_, initial.to);
-    fromEdit_->setFocus();
-    fromEdit_->selectAll();
 }
 
 ReportPeriod TDlgReportPeriod::period() const
