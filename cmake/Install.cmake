@@ -29,7 +29,7 @@ set(CPACK_PACKAGE_DESCRIPTION
 set(CPACK_PACKAGE_INSTALL_DIRECTORY purrlodge)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Purrlodge developers <dev@purrlodge.org>")
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Purrlodge developers <purrlodge@example.org>")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 # dpkg-shlibdeps finds the Qt 6 libraries the program links; the fonts are the
