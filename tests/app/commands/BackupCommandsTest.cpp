@@ -121,23 +121,6 @@ TEST_F(BackupCommandsTest, ACopyErrorStillCountsAsTheBackupMade)
     EXPECT_EQ(setting("LastBkDate"), std::to_string(fakes.clock.now()));
 }
 
-TEST_F(BackupCommandsTest, FloppyDiscsAreNumberedOnFromOneBackupToTheNext)
-{
-    const fs::path disc = temp.root() / "A";
-    fs::create_directories(disc);
-    fakes.drives.roots['A'] = (disc / "").string();
-    fakes.drives.freeSpace = 1440000;
-    for (int run = 0; run < 2; ++run) {
-        questions.steps.push_back(
-            [](BackupOptions& entries) { entries.medium = BackupMedium::Floppy; });
-        backupMyData(session, questions);
-    }
-    EXPECT_EQ(fakes.ui.messages[0].text, "Please insert disc number-1");
-    EXPECT_EQ(fakes.ui.messages[2].text, "Please insert disc number-2");
-    EXPECT_EQ(fakes.ui.messages[3].text.substr(0, 18), "4 files backed up\n");
-    EXPECT_EQ(fileBytes(disc / "BACKUP" / "SmithA.ACR"), "accounts");
-}
-
 TEST_F(BackupCommandsTest, ARestoreBringsTheBackedUpRecordsBackAndReadsTheIndexAgain)
 {
     chooseDriveC();
