@@ -146,25 +146,33 @@ AccountNumberEntry readAccountNumberEntry(std::string_view typed)
     return {std::nullopt, number};
 }
 
-std::vector<std::string> numberedAccountLines(const DataFolder& folder, int number)
+std::vector<FiledAccount> accountsNumbered(const DataFolder& folder, int number)
 {
-    std::vector<std::string> lines;
+    std::vector<FiledAccount> found;
     AccountBook book;
-    ClientRecord client;
     for (const std::string& name : folder.namesWithExtension(extension::accountBook)) {
         const std::string code = name.substr(0, name.find('.'));
         if (!isSafeClientCode(code) || !folder.read(name, book))
             continue;
-        bool clientRead = false;
         for (const AccountRecord& account : book.accounts) {
-            if (account.receiptNumber.get() != number)
-                continue;
-            if (!clientRead) {
-                readClientRecord(folder, code, client);
-                clientRead = true;
-            }
-            addNumberedAccount(lines, client, account);
+            if (account.receiptNumber.get() == number)
+                found.push_back({code, account});
         }
+    }
+    return found;
+}
+
+std::vector<std::string> numberedAccountLines(const DataFolder& folder, int number)
+{
+    std::vector<std::string> lines;
+    ClientRecord client;
+    std::string clientRead;
+    for (const FiledAccount& filed : accountsNumbered(folder, number)) {
+        if (filed.code != clientRead) {
+            readClientRecord(folder, filed.code, client);
+            clientRead = filed.code;
+        }
+        addNumberedAccount(lines, client, filed.account);
     }
     if (lines.empty()) {
         lines.assign(5, std::string());

@@ -47,6 +47,18 @@ struct AccountNumberEntry {
 };
 [[nodiscard]] AccountNumberEntry readAccountNumberEntry(std::string_view typed);
 
+// An account filed in a client's book, with the client code its book is
+// named by.
+struct FiledAccount {
+    std::string code;
+    AccountRecord account;
+};
+
+// Every account numbered `number` in every account book of the data folder:
+// books in file-name order (books named by an unsafe code skipped), each
+// book's slots oldest first.
+[[nodiscard]] std::vector<FiledAccount> accountsNumbered(const DataFolder& folder, int number);
+
 // The lines of DIALOG 60: every account numbered `number` in every account
 // book of the data folder (books in file-name order), with its client, dates,
 // total and cats; a note that none was found otherwise.

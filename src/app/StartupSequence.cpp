@@ -159,13 +159,6 @@ bool checkClientIndexes(Session& session)
     return mayWrite;
 }
 
-// Step 7. An index made at start-up has the stamp 0 and is accepted.
-bool indexIsCompatible(const ClientIndex& index)
-{
-    const std::int32_t stamp = index.formatStamp.get();
-    return stamp == currentFormatStamp || stamp == 0;
-}
-
 // Step 9. The quit code when Establishment Details ended the run.
 std::optional<int> loadCatteryFiles(Session& session, EstablishmentDetailsQuestion& questions)
 {
@@ -219,7 +212,7 @@ StartupOutcome runStartupSequence(Session& session, StartupQuestions& questions,
     session.folder.removeLeftoverTemporaryFiles();
 
     openClientIndex(session);
-    if (!indexIsCompatible(session.index)) {
+    if (!isKnownIndexFormat(session.index)) {
         session.ports.ui.showMessage({std::string(incompatibleDataText), "Data Not Compatible"});
         return {false, 0};
     }

@@ -46,6 +46,11 @@ std::string withTrailingSeparator(std::string folder)
     return folder;
 }
 
+bool isFarLongerThanBlock(std::uintmax_t fileSize, std::size_t blockSize)
+{
+    return fileSize / 2 > blockSize;
+}
+
 DataFolder::DataFolder(std::string folder, Ui& ui) : folder_(std::move(folder)), ui_(ui)
 {}
 
@@ -66,7 +71,8 @@ bool DataFolder::readBytes(std::string_view name, void* block, std::size_t size)
         std::memset(block, 0, size);
         return false;
     }
-    if (const std::optional<std::uintmax_t> length = fileSize(name); length && *length / 2 > size)
+    if (const std::optional<std::uintmax_t> length = fileSize(name);
+        length && isFarLongerThanBlock(*length, size))
         reportOversized(name, *length, size);
     return true;
 }

@@ -22,6 +22,10 @@ inline constexpr char folderSeparator =
 // The folder name with a separator at its end (an empty name stays empty).
 [[nodiscard]] std::string withTrailingSeparator(std::string folder);
 
+// Whether a file of `fileSize` bytes is far longer (more than twice as long)
+// than the block it holds, and so damaged; only the block is ever read.
+[[nodiscard]] bool isFarLongerThanBlock(std::uintmax_t fileSize, std::size_t blockSize);
+
 // Whether a name can only ever mean a file inside the data folder: not empty,
 // no separator, no "..", no control character.
 [[nodiscard]] bool isPlainFileName(std::string_view name);

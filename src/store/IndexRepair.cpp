@@ -16,6 +16,12 @@ std::string entryName(const ClientIndex& index, int entry)
 
 } // namespace
 
+bool isKnownIndexFormat(const ClientIndex& index)
+{
+    const std::int32_t stamp = index.formatStamp.get();
+    return stamp == currentFormatStamp || stamp == 0;
+}
+
 IndexRepair repairIndex(ClientIndex& index, std::uintmax_t fileSize)
 {
     IndexRepair repair;

@@ -27,6 +27,10 @@ struct IndexRepair {
 // index's is reported too. An index that needs nothing is left as it is.
 [[nodiscard]] IndexRepair repairIndex(ClientIndex& index, std::uintmax_t fileSize);
 
+// Whether the index was written in the format this program knows; an index
+// made at start-up has the stamp 0 and is known too.
+[[nodiscard]] bool isKnownIndexFormat(const ClientIndex& index);
+
 // The entries whose code cannot name a file, as "entry N (surname): "code"".
 [[nodiscard]] std::vector<std::string> unsafeCodeEntries(const ClientIndex& index);
 

@@ -23,6 +23,12 @@ bool printPeriodReport(Session& session, const PeriodReportsView& view, PeriodRe
     return printed;
 }
 
+PeriodFigures figuresOfPeriod(const Session& session, const ReportPeriod& period)
+{
+    return gatherPeriodFigures(session.folder, session.index, dateToNumber(period.from),
+                               dateToNumber(period.to), session.rates.perDay.get() == 0);
+}
+
 void showClientUsage(Session& session, PeriodReportsQuestions& questions)
 {
     ReportPeriod accepted;
@@ -42,8 +48,7 @@ void showClientUsage(Session& session, PeriodReportsQuestions& questions)
 
     PeriodReportsView view;
     view.period = accepted.from + " to " + accepted.to;
-    view.figures = gatherPeriodFigures(session.folder, session.index, dateToNumber(accepted.from),
-                                       dateToNumber(accepted.to), session.rates.perDay.get() == 0);
+    view.figures = figuresOfPeriod(session, accepted);
     const unsigned char sign = currencySign(session.rates.currency.get());
     for (PeriodReport report :
          {PeriodReport::FinancialSummary, PeriodReport::DaysUse, PeriodReport::ClientUsage})

@@ -38,6 +38,10 @@ public:
                                    const std::function<void(PeriodReport)>& print) = 0;
 };
 
+// The figures of an accepted period (its dates checked), as the rates charge:
+// by the day or by the night.
+[[nodiscard]] PeriodFigures figuresOfPeriod(const Session& session, const ReportPeriod& period);
+
 // Special Operations | Client Usage (11874): the period asked for (this
 // year so far to start with), then the financial summary, the days-use
 // summary and the client usage of the accounts that arrived in it, each

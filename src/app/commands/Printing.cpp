@@ -94,7 +94,11 @@ bool printAccountAndCopy(Session& session, const AccountPrintout& printout)
     return outcome == AccountPairOutcome::Printed;
 }
 
-bool reprintPastAccount(Session& session)
+namespace {
+
+// A filed account printed again takes the account note and the standard
+// extra as they are now set.
+AccountPageValues filedAccountValues(Session& session)
 {
     const bool namesLineOn =
         colourPrintingFormOf(session.establishment, session.colourBlock, session.ports.profile)
@@ -102,13 +106,29 @@ bool reprintPastAccount(Session& session)
     const AccountPrintout printout{session.rates.accountNote.str(),
                                    session.rates.standardExtraName.str(),
                                    session.rates.standardExtraCharge.get(), namesLineOn};
-    const AccountPageValues values = accountPageValues(session, printout);
-    fillClientAccount(session.printBuffer, values, session.draw);
+    return accountPageValues(session, printout);
+}
+
+bool runFiledAccountJob(Session& session, const char* title)
+{
     PrinterJobs jobs(session.ports.printer);
-    const bool printed =
-        runPrintJob(jobs, "Past Account", session.printBuffer, session.printDialog);
+    const bool printed = runPrintJob(jobs, title, session.printBuffer, session.printDialog);
     tellWherePrintoutsWent(session.ports.printer, session.ports.ui);
     return printed;
+}
+
+} // namespace
+
+bool reprintPastAccount(Session& session)
+{
+    fillClientAccount(session.printBuffer, filedAccountValues(session), session.draw);
+    return runFiledAccountJob(session, "Past Account");
+}
+
+bool reprintAccountCopy(Session& session)
+{
+    fillAccountCopy(session.printBuffer, filedAccountValues(session));
+    return runFiledAccountJob(session, "Account Copy");
 }
 
 bool printArrivalSheets(Session& session, const std::array<bool, arrivalSheetCount>& sheets)

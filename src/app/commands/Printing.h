@@ -67,6 +67,10 @@ bool printAccountAndCopy(Session& session, const AccountPrintout& printout);
 // as they are now set. Whether it printed.
 bool reprintPastAccount(Session& session);
 
+// Prints the cattery's copy of the session's account in preparation again,
+// as "Account Copy", with the same values as the reprint. Whether it printed.
+bool reprintAccountCopy(Session& session);
+
 // Prints the sheets chosen for the session's client and stay, in their order,
 // with the print dialog at most once; a sheet that does not print stops the
 // ones after it. Whether every sheet chosen printed.

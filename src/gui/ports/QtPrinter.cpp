@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -14,25 +13,11 @@
 
 #include "gui/FrontWindow.h"
 #include "gui/Text1252.h"
-#include "gui/print/TBlindPrintout.h"
+#include "gui/print/PdfPage.h"
 
 namespace purrlodge {
 
 namespace {
-
-// What a PDF page shares with a printed one: the pages are laid out for a
-// printable area a quarter inch inside the paper, as most printers have.
-constexpr double pdfMarginMillimetres = 6.35;
-constexpr int pdfResolution = 600;
-
-// A4, or Letter where the locale uses it.
-QPageSize defaultPageSize()
-{
-    const QLocale::Country country = QLocale().territory();
-    const bool letter = country == QLocale::UnitedStates || country == QLocale::Canada ||
-                        country == QLocale::Mexico;
-    return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
-}
 
 // A name the file system takes, made from the job's title.
 QString fileNameOf(const std::string& title)
@@ -45,26 +30,10 @@ QString fileNameOf(const std::string& title)
     return name;
 }
 
-// Draws the one page of a job on the printer or PDF file: Printed when the
-// device took it.
-PrintOutcome drawPageOn(QPagedPaintDevice& device, const std::function<void(Canvas&)>& drawPage)
-{
-    QPainter painter;
-    if (!painter.begin(&device))
-        return PrintOutcome::Failed;
-    TBlindPrintout page(painter);
-    drawPage(page);
-    return painter.end() ? PrintOutcome::Printed : PrintOutcome::Failed;
-}
-
 } // namespace
 
 QtPrinter::QtPrinter(QString printoutsFolder)
-    : printoutsFolder_(std::move(printoutsFolder)),
-      pdfLayout_(defaultPageSize(), QPageLayout::Portrait,
-                 QMarginsF(pdfMarginMillimetres, pdfMarginMillimetres, pdfMarginMillimetres,
-                           pdfMarginMillimetres),
-                 QPageLayout::Millimeter)
+    : printoutsFolder_(std::move(printoutsFolder)), pdfLayout_(defaultPdfLayout())
 {}
 
 QtPrinter::~QtPrinter() = default;
@@ -109,7 +78,7 @@ PrintOutcome QtPrinter::printPage(const std::string& title, bool prompt,
         if (dialog.exec() != QDialog::Accepted)
             return PrintOutcome::Cancelled;
     }
-    return drawPageOn(job, drawPage);
+    return drawOnePage(job, drawPage);
 }
 
 PrintOutcome QtPrinter::saveAsPdf(const std::string& title,
@@ -125,12 +94,7 @@ PrintOutcome QtPrinter::saveAsPdf(const std::string& title,
     for (int n = 2; QFileInfo::exists(path); ++n)
         path = stem + QStringLiteral(" (%1).pdf").arg(n);
 
-    QPdfWriter writer(path);
-    writer.setResolution(pdfResolution);
-    writer.setPageLayout(pdfLayout_);
-    writer.setTitle(fromWindows1252(title));
-    writer.setCreator(QStringLiteral("Purrlodge"));
-    const PrintOutcome outcome = drawPageOn(writer, drawPage);
+    const PrintOutcome outcome = writePdfPage(path, pdfLayout_, fromWindows1252(title), drawPage);
     if (outcome != PrintOutcome::Printed)
         return outcome;
     savedFiles_.push_back(toWindows1252(QDir::toNativeSeparators(path)));
