@@ -46,6 +46,13 @@ std::string withTrailingSeparator(std::string folder)
     return folder;
 }
 
+std::string withoutTrailingSeparators(std::string folder)
+{
+    while (folder.size() > 1 && isFolderSeparator(folder.back()))
+        folder.pop_back();
+    return folder;
+}
+
 DataFolder::DataFolder(std::string folder, Ui& ui) : folder_(std::move(folder)), ui_(ui)
 {}
 
