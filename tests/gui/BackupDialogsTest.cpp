@@ -1,53 +1,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QTemporaryDir>
 
-#include "app/CommandIds.h"
-#include "app/ProfileDrives.h"
-#include "app/Session.h"
-#include "gui/ModalAnswers.h"
-#include "gui/app/TMyWindow.h"
+#include "gui/ShellFixture.h"
 #include "gui/housekeeping/TDlg42.h"
-#include "gui/ports/QtUi.h"
-#include "store/ClientFiles.h"
-#include "support/FakePorts.h"
 
 using namespace purrlodge;
 using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The main window over a data folder with one client, its drive letters
-// taken from the settings as the program takes them.
-struct BackupShell {
-    QTemporaryDir dataFolder;
-    QTemporaryDir stick;
-    QtUi ui;
-    FakeClock clock{1'700'000'000};
-    FakeRandom random;
-    FakeProfile profile;
-    ProfileDrives drives{profile, std::string()};
-    FakePrinter printer;
-    Session session{Ports{ui, clock, random, profile, drives, printer},
-                    dataFolder.path().toStdString() + "/"};
-    TMyWindow window{session};
-
-    BackupShell()
-    {
-        ui.setMainWindow(&window);
-        ClientRecord client{};
-        client.surname.set("Nguyen");
-        client.firstName.set("Ann");
-        client.catName[0].set("Tibbles");
-        if (addNewClient(session.folder, session.index, client, session.draw) !=
-            AddClientResult::Added)
-            qFatal("the client could not be added");
-    }
-
-    void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
-};
 
 QStringList filesIn(const QString& folder)
 {
@@ -81,8 +43,10 @@ class BackupDialogsTest : public QObject {
 private slots:
     void backupGoesToTheFolderBrowsedForAndRestoreBringsItBack()
     {
-        BackupShell shell;
-        const QString stick = QDir(shell.stick.path()).canonicalPath();
+        ShellFixture shell;
+        shell.addClient("Nguyen", {"Tibbles"});
+        QTemporaryDir stickFolder;
+        const QString stick = QDir(stickFolder.path()).canonicalPath();
         {
             ModalAnswers backup({
                 [](QWidget* d) {
