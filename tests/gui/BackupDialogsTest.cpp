@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 
 #include "gui/ShellFixture.h"
@@ -27,12 +26,6 @@ void afterwards(QObject* context, std::function<bool()> condition, std::function
         else
             afterwards(context, condition, action, triesLeft - 1);
     });
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -82,18 +75,12 @@ private slots:
                      u"Result"_s);
         }
         const QString backupFolder = stick + u"/MyCatData"_s;
-        const QString data = shell.dataFolder.path();
-        const QStringList dataFiles = filesIn(data);
+        const QStringList dataFiles = filesIn(shell.dataFolder.path());
         QVERIFY(!dataFiles.isEmpty());
         QCOMPARE(filesIn(backupFolder), dataFiles);
 
-        const QString changed = dataFiles.first();
-        const QByteArray backedUp = contentOf(backupFolder + u'/' + changed);
-        {
-            QFile file(data + u'/' + changed);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write("changed since the backup");
-        }
+        // What a restore copies is pinned in the core tests; "Result" comes only
+        // once the backup is back in place.
         ModalAnswers restore({
             [](QWidget* d) { clickLater(button(d, u"restoreHelpButton"_s)); },
             press(QDialogButtonBox::Close), // the details
@@ -103,7 +90,6 @@ private slots:
         shell.trigger(command::restoreDataFromBackup);
         QCOMPARE(restore.seen(),
                  u"Restore Backup|Restore from Backup  (Details)|Restore Backup|Result"_s);
-        QCOMPARE(contentOf(data + u'/' + changed), backedUp);
     }
 
     void optionsDialogShowsTheEntriesAsTheRuleHandsThemBack()
