@@ -16,11 +16,9 @@ namespace {
 
 // The folder without its final separators, in upper case, as two folders
 // are compared.
-std::string comparable(std::string folder)
+std::string comparable(const std::string& folder)
 {
-    while (!folder.empty() && isFolderSeparator(folder.back()))
-        folder.pop_back();
-    return toUpper(folder);
+    return toUpper(withoutTrailingSeparators(folder));
 }
 
 bool sameFolder(const std::string& a, const std::string& b)
@@ -50,12 +48,16 @@ Message driveNotSetUp(char letter)
 
 } // namespace
 
+std::string backupFolderSetting(const Profile& profile)
+{
+    std::string folder = profile.read("DefBkDir");
+    return folder.empty() ? std::string(defaultBackupFolder) : folder;
+}
+
 BackupOptions openingBackupOptions(const Profile& profile)
 {
     BackupOptions entries;
-    entries.folder = profile.read("DefBkDir");
-    if (entries.folder.empty())
-        entries.folder = std::string(defaultBackupFolder);
+    entries.folder = backupFolderSetting(profile);
     entries.drive = profile.read("CurrentDrive");
     return entries;
 }

@@ -32,6 +32,9 @@ inline constexpr std::size_t backupDriveLength = 2;
 // Below this the data still fits the floppy set the person may have meant.
 inline constexpr std::uint64_t floppySizedData = 1400000;
 
+// The backup folder's name from DefBkDir, "MyCatData" when unset.
+[[nodiscard]] std::string backupFolderSetting(const Profile& profile);
+
 // The entries the dialog opens with: the folder from DefBkDir ("MyCatData"
 // when unset), the drive from CurrentDrive.
 [[nodiscard]] BackupOptions openingBackupOptions(const Profile& profile);

@@ -27,22 +27,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view programFile = "PURRLODGE.EXE";
 
-std::string withoutTrailingSeparators(std::string folder)
-{
-    while (folder.size() > 1 && isFolderSeparator(folder.back()))
-        folder.pop_back();
-    return folder;
-}
-
-bool holdsIndex(const std::vector<std::string>& names)
-{
-    for (const std::string& name : names) {
-        if (toUpper(name) == currentIndexFile)
-            return true;
-    }
-    return false;
-}
-
 // Swaps two folders in one step where the system can, so a crash leaves one
 // whole data folder or the other; elsewhere by two renames.
 bool swapFolders(const fs::path& a, const fs::path& b, std::error_code& error)
@@ -105,7 +89,7 @@ RestoreResult restoreFromBackup(const std::string& backupFolder, const std::stri
 {
     RestoreResult result;
     const std::vector<std::string> files = filesInFolder(backupFolder);
-    if (!holdsIndex(files)) {
+    if (!holdsIndexFile(files)) {
         ui.showMessage({"There is no backup of a Purrlodge data set in the folder\n   " +
                             backupFolder + "\n\nYour data folder has not been changed.",
                         "No Backup Found", MessageIcon::Exclamation});

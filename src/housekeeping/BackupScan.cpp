@@ -11,6 +11,7 @@
 #include "store/ClientFiles.h"
 #include "store/ClientIndex.h"
 #include "store/DataFolder.h"
+#include "store/TextHelpers.h"
 #include "store/Windows1252.h"
 
 namespace purrlodge {
@@ -44,6 +45,12 @@ std::vector<std::string> filesInFolder(const std::string& folder)
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+bool holdsIndexFile(const std::vector<std::string>& names)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [](const std::string& name) { return toUpper(name) == currentIndexFile; });
 }
 
 BackupScan scanForBackup(const DataFolder& folder, const ClientIndex& index)

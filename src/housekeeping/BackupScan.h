@@ -30,6 +30,10 @@ struct BackupScan {
 [[nodiscard]] std::string dataFilesText(const BackupScan& scan);
 [[nodiscard]] std::string backupEstimateText(const BackupScan& scan);
 
+// Whether a list of file names holds the client index, whatever the case of
+// its name: the mark of a backup's own folder.
+[[nodiscard]] bool holdsIndexFile(const std::vector<std::string>& names);
+
 // The regular files of a folder (sub-folders are never part of a backup), in
 // file-name order.
 [[nodiscard]] std::vector<std::string> filesInFolder(const std::string& folder);

@@ -10,16 +10,6 @@
 
 namespace purrlodge {
 
-namespace {
-
-std::string backupFolderSetting(const Profile& profile)
-{
-    std::string folder = profile.read("DefBkDir");
-    return folder.empty() ? std::string(defaultBackupFolder) : folder;
-}
-
-} // namespace
-
 std::string backupFolderName(const Profile& profile)
 {
     return profile.read("CurrentDrive") + ":\\" + backupFolderSetting(profile);
@@ -37,12 +27,12 @@ StuffWhereabouts stuffWhereabouts(const std::string& dataFolder, const Profile& 
     const std::string drive = profile.read("CurrentDrive");
     const std::optional<std::string> backup =
         backupFolderOf(drives, drive, backupFolderSetting(profile));
-    where.onThisComputer = "On this computer your data is in " + dataFolder + "\nand " +
-                           (backup ? "your backup in " + *backup
-                                   : std::string("the backup drive ") +
-                                         (drive.empty() ? "" : drive + ": ") +
-                                         "is not set up yet") +
-                           ".";
+    where.onThisComputer =
+        "On this computer your data is in " + dataFolder + "\nand " +
+        (backup ? "your backup in " + *backup
+                : std::string("the backup drive ") + (drive.empty() ? "" : drive + ": ") +
+                      "is not set up yet") +
+        ".";
     return where;
 }
 

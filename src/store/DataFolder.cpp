@@ -51,6 +51,13 @@ bool isFarLongerThanBlock(std::uintmax_t fileSize, std::size_t blockSize)
     return fileSize / 2 > blockSize;
 }
 
+std::string withoutTrailingSeparators(std::string folder)
+{
+    while (folder.size() > 1 && isFolderSeparator(folder.back()))
+        folder.pop_back();
+    return folder;
+}
+
 DataFolder::DataFolder(std::string folder, Ui& ui) : folder_(std::move(folder)), ui_(ui)
 {}
 

@@ -21,6 +21,8 @@ inline constexpr char folderSeparator =
 [[nodiscard]] bool isFolderSeparator(char c);
 // The folder name with a separator at its end (an empty name stays empty).
 [[nodiscard]] std::string withTrailingSeparator(std::string folder);
+// The folder name without separators at its end; a root folder keeps its one.
+[[nodiscard]] std::string withoutTrailingSeparators(std::string folder);
 
 // Whether a file of `fileSize` bytes is far longer (more than twice as long)
 // than the block it holds, and so damaged; only the block is ever read.

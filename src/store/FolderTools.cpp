@@ -100,9 +100,7 @@ void deleteContents(Ui& ui, const fs::path& folder, bool descend, bool removeFol
 
 int makeFolderChain(const std::string& folder)
 {
-    std::string trimmed = folder;
-    while (trimmed.size() > 1 && isFolderSeparator(trimmed.back()))
-        trimmed.pop_back();
+    const std::string trimmed = withoutTrailingSeparators(folder);
     if (trimmed.empty())
         return 0;
 

@@ -1,53 +1,14 @@
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
-#include <QTemporaryDir>
 
-#include "app/CommandIds.h"
-#include "app/ProfileDrives.h"
-#include "app/Session.h"
-#include "gui/ModalAnswers.h"
-#include "gui/app/TMyWindow.h"
+#include "gui/ShellFixture.h"
 #include "gui/housekeeping/TDlg42.h"
-#include "gui/ports/QtUi.h"
-#include "store/ClientFiles.h"
-#include "support/FakePorts.h"
 
 using namespace purrlodge;
 using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The main window over a data folder with one client, its drive letters
-// taken from the settings as the program takes them.
-struct BackupShell {
-    QTemporaryDir dataFolder;
-    QTemporaryDir stick;
-    QtUi ui;
-    FakeClock clock{1'700'000'000};
-    FakeRandom random;
-    FakeProfile profile;
-    ProfileDrives drives{profile, std::string()};
-    FakePrinter printer;
-    Session session{Ports{ui, clock, random, profile, drives, printer},
-                    dataFolder.path().toStdString() + "/"};
-    TMyWindow window{session};
-
-    BackupShell()
-    {
-        ui.setMainWindow(&window);
-        ClientRecord client{};
-        client.surname.set("Nguyen");
-        client.firstName.set("Ann");
-        client.catName[0].set("Tibbles");
-        if (addNewClient(session.folder, session.index, client, session.draw) !=
-            AddClientResult::Added)
-            qFatal("the client could not be added");
-    }
-
-    void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
-};
 
 QStringList filesIn(const QString& folder)
 {
@@ -67,12 +28,6 @@ void afterwards(QObject* context, std::function<bool()> condition, std::function
     });
 }
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class BackupDialogsTest : public QObject {
@@ -81,8 +36,10 @@ class BackupDialogsTest : public QObject {
 private slots:
     void backupGoesToTheFolderBrowsedForAndRestoreBringsItBack()
     {
-        BackupShell shell;
-        const QString stick = QDir(shell.stick.path()).canonicalPath();
+        ShellFixture shell;
+        shell.addClient("Nguyen", {"Tibbles"});
+        QTemporaryDir stickFolder;
+        const QString stick = QDir(stickFolder.path()).canonicalPath();
         {
             ModalAnswers backup({
                 [](QWidget* d) {
@@ -118,18 +75,12 @@ private slots:
                      u"Result"_s);
         }
         const QString backupFolder = stick + u"/MyCatData"_s;
-        const QString data = shell.dataFolder.path();
-        const QStringList dataFiles = filesIn(data);
+        const QStringList dataFiles = filesIn(shell.dataFolder.path());
         QVERIFY(!dataFiles.isEmpty());
         QCOMPARE(filesIn(backupFolder), dataFiles);
 
-        const QString changed = dataFiles.first();
-        const QByteArray backedUp = contentOf(backupFolder + u'/' + changed);
-        {
-            QFile file(data + u'/' + changed);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write("changed since the backup");
-        }
+        // What a restore copies is pinned in the core tests; "Result" comes only
+        // once the backup is back in place.
         ModalAnswers restore({
             [](QWidget* d) { clickLater(button(d, u"restoreHelpButton"_s)); },
             press(QDialogButtonBox::Close), // the details
@@ -139,7 +90,6 @@ private slots:
         shell.trigger(command::restoreDataFromBackup);
         QCOMPARE(restore.seen(),
                  u"Restore Backup|Restore from Backup  (Details)|Restore Backup|Result"_s);
-        QCOMPARE(contentOf(data + u'/' + changed), backedUp);
     }
 
     void optionsDialogShowsTheEntriesAsTheRuleHandsThemBack()

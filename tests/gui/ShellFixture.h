@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "app/CommandIds.h"
+#include "app/ProfileDrives.h"
 #include "app/Session.h"
 #include "gui/ModalAnswers.h"
 #include "gui/app/TMyWindow.h"
@@ -15,14 +16,15 @@
 namespace purrlodge::testing {
 
 // The main window over a session on a temporary data folder, with real
-// dialogs (QtUi) and in-memory settings.
+// dialogs (QtUi) and in-memory settings; drive letters are taken from the
+// settings as the program takes them, with no home folder for drive C.
 struct ShellFixture {
     QTemporaryDir dataFolder;
     QtUi ui;
     FakeClock clock{1'700'000'000}; // 14 November 2023, 22:13 UTC
     FakeRandom random;
     FakeProfile profile;
-    FakeDrives drives;
+    ProfileDrives drives{profile, std::string()};
     FakePrinter printer;
     Session session{Ports{ui, clock, random, profile, drives, printer},
                     dataFolder.path().toStdString() + "/"};

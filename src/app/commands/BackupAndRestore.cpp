@@ -34,15 +34,6 @@ Message unfinishedBackup(const CopyResult& result, const std::string& why)
             MessageIcon::Exclamation};
 }
 
-bool holdsIndexFile(const std::vector<std::string>& names)
-{
-    for (const std::string& name : names) {
-        if (toUpper(name) == currentIndexFile)
-            return true;
-    }
-    return false;
-}
-
 // Settings the person has been told about when they could not be written;
 // the backup itself stands.
 void noteBackupMade(Session& session)
@@ -169,10 +160,8 @@ void restoreDataFromBackup(Session& session, BackupQuestions& questions)
 {
     Ports& ports = session.ports;
     const std::string drive = ports.profile.read("CurrentDrive");
-    std::string folder = ports.profile.read("DefBkDir");
-    if (folder.empty())
-        folder = std::string(defaultBackupFolder);
-    const std::optional<std::string> source = backupFolderOf(ports.drives, drive, folder);
+    const std::optional<std::string> source =
+        backupFolderOf(ports.drives, drive, backupFolderSetting(ports.profile));
     if (!source) {
         ports.ui.showMessage(
             {drive.empty() ? std::string("No backup has been made to a folder yet, so there is "

@@ -48,10 +48,7 @@ std::optional<std::string> lastBackupFolder(const Session& session)
     const std::string drive = profile.read("CurrentDrive");
     if (drive.empty())
         return std::nullopt;
-    std::string folder = profile.read("DefBkDir");
-    if (folder.empty())
-        folder = std::string(defaultBackupFolder);
-    return backupFolderOf(session.ports.drives, drive, folder);
+    return backupFolderOf(session.ports.drives, drive, backupFolderSetting(profile));
 }
 
 // The folder as an absolute path ending in the separator.
@@ -72,12 +69,6 @@ bool isWithin(const std::string& folder, const std::string& outer)
     const auto [end, rest] = std::mismatch(base.begin(), base.end(), inner.begin(), inner.end());
     // A trailing separator leaves an empty last element in the base.
     return end == base.end() || (std::next(end) == base.end() && end->empty());
-}
-
-bool holdsClientList(const std::vector<std::string>& names)
-{
-    return std::any_of(names.begin(), names.end(),
-                       [](const std::string& name) { return toUpper(name) == currentIndexFile; });
 }
 
 std::uint64_t bytesOf(const std::string& folder, const std::vector<std::string>& names)
@@ -127,7 +118,7 @@ JobOutcome runBackupJob(Session& session, const JobRequest& request, const JobOu
                     " and the data folder must lie apart, neither inside the other"};
 
     const std::vector<std::string> present = filesInFolder(target);
-    if (!present.empty() && !holdsClientList(present))
+    if (!present.empty() && !holdsIndexFile(present))
         return failed(target + " holds " + std::to_string(present.size()) +
                       " files but no client list, so it is not a former backup and is not "
                       "cleared: choose an empty folder or a former backup");
