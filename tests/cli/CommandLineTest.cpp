@@ -1,0 +1,104 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "accounts/CatteryFiles.h"
+#include "app/jobs/JobOutcome.h"
+#include "ports/Ui.h"
+#include "store/DataFolder.h"
+#include "support/Bytes.h"
+#include "support/DataSetGenerator.h"
+#include "support/TempFolder.h"
+
+namespace purrlodge {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::fileBytes;
+
+struct NoUi : Ui {
+    void showMessage(const Message&) override {}
+};
+
+struct Finished {
+    int exitCode = -1;
+    std::string out;
+    std::string err;
+};
+
+// purrlodge-cli as a timer starts it: no display, no Qt platform chosen, its
+// own settings file pointing at a generated data set.
+class CommandLineTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        const DataFolder folder(data.path(), ui);
+        static_cast<void>(testing::generateDataSet(folder, 5, 9));
+        EstablishmentRecord cattery{};
+        cattery.name.set("Whiskers Lodge");
+        ASSERT_TRUE(saveEstablishment(folder, cattery) && saveRates(folder, RatesRecord{}));
+        fs::create_directories(home.root() / "config");
+        std::ofstream(home.root() / "config" / "HEARTH.INI")
+            << "[Purrlodge]\nCurrentDir=" << data.path() << "\n";
+    }
+
+    Finished run(const std::string& arguments)
+    {
+        const fs::path out = home.root() / "out";
+        const fs::path err = home.root() / "err";
+        const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM HOME='" +
+                                    home.path() + "' XDG_CONFIG_HOME='" + home.path() +
+                                    "config' '" PURRLODGE_CLI "' " + arguments + " >'" +
+                                    out.string() + "' 2>'" + err.string() + "'";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, fileBytes(out), fileBytes(err)};
+    }
+
+    NoUi ui;
+    testing::TempFolder data;
+    testing::TempFolder home;
+};
+
+TEST_F(CommandLineTest, AJobRunsWithNoDisplayAndSaysWhatItDidOnStandardOutput)
+{
+    const std::string pdf = home.path() + "account 1002.pdf";
+    const Finished account = run("account --number 1002 --pdf '" + pdf + "'");
+    EXPECT_EQ(account.exitCode, jobExit::done) << account.err;
+    EXPECT_EQ(account.err, "");
+    EXPECT_NE(account.out.find("Account No. 1002 of "), std::string::npos) << account.out;
+    const std::string written = fileBytes(pdf);
+    EXPECT_TRUE(written.starts_with("%PDF-")) << written.substr(0, 20);
+    EXPECT_NE(written.find("%%EOF", written.size() - 8), std::string::npos);
+    EXPECT_FALSE(fs::exists(pdf + ".part"));
+
+    const Finished check = run("check");
+    EXPECT_EQ(check.exitCode, jobExit::done) << check.out;
+    EXPECT_EQ(check.out + check.err, "");
+
+    const Finished help = run("--help");
+    EXPECT_EQ(help.exitCode, jobExit::done);
+    EXPECT_TRUE(help.out.starts_with("Usage: purrlodge-cli")) << help.out;
+}
+
+TEST_F(CommandLineTest, AFailureEndsWithOneLineAndItsExitCode)
+{
+    const Finished missing = run("--data /no/such/cattery export emails");
+    EXPECT_EQ(missing.exitCode, jobExit::dataSetUnusable);
+    EXPECT_EQ(missing.err, "purrlodge-cli: the data folder /no/such/cattery/ does not exist\n");
+    EXPECT_EQ(missing.out, "");
+
+    const Finished wrong = run("export phones");
+    EXPECT_EQ(wrong.exitCode, jobExit::usage);
+    EXPECT_EQ(wrong.err, "purrlodge-cli: export knows addresses and emails, not phones "
+                         "(purrlodge-cli --help for more)\n");
+
+    const Finished unwritable = run("account --number 1002 --pdf /no/such/folder/a.pdf");
+    EXPECT_EQ(unwritable.exitCode, jobExit::failed);
+    EXPECT_EQ(unwritable.err,
+              "purrlodge-cli: the account could not be written to /no/such/folder/a.pdf\n");
+}
+
+} // namespace
+} // namespace purrlodge
