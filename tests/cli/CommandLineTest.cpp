@@ -73,10 +73,6 @@ TEST_F(CommandLineTest, AJobRunsWithNoDisplayAndSaysWhatItDidOnStandardOutput)
     EXPECT_NE(written.find("%%EOF", written.size() - 8), std::string::npos);
     EXPECT_FALSE(fs::exists(pdf + ".part"));
 
-    const Finished check = run("check");
-    EXPECT_EQ(check.exitCode, jobExit::done) << check.out;
-    EXPECT_EQ(check.out + check.err, "");
-
     const Finished help = run("--help");
     EXPECT_EQ(help.exitCode, jobExit::done);
     EXPECT_TRUE(help.out.starts_with("Usage: purrlodge-cli")) << help.out;

@@ -61,16 +61,5 @@ TEST(JobArgumentsTest, WhatCannotBeUnderstoodIsRefusedWithItsReason)
         << "1 is the lowest account number";
 }
 
-TEST(JobArgumentsTest, HelpComesWholeOrForOneJob)
-{
-    const std::string whole = parseJobArguments({"--help"}).help.value_or("");
-    for (const char* job : {"backup [--to FOLDER]", "export addresses", "account --number N",
-                            "  check\n", "stats --from", "Exit codes:"})
-        EXPECT_NE(whole.find(job), std::string::npos) << job;
-    const std::string backup = parseJobArguments({"backup", "-h"}).help.value_or("");
-    EXPECT_NE(backup.find("backup [--to FOLDER]"), std::string::npos);
-    EXPECT_EQ(backup.find("stats --from"), std::string::npos);
-}
-
 } // namespace
 } // namespace purrlodge

@@ -1,5 +1,6 @@
 #include "app/jobs/UnattendedJobs.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -265,23 +266,22 @@ TEST_F(UnattendedJobsTest, AFiledAccountPrintsAsViewPastAccountsReprintsIt)
 TEST_F(UnattendedJobsTest, StatsAreTheMonthsOfThePeriodAsCsv)
 {
     const DataFolder folder(data.path(), fakes.ui);
+    // Days, cats, gross board, discount, extras and credit of two accounts.
     AccountBook book{};
-    const auto file = [&book](int slot, const char* in, const char* out, int days, int cats,
-                              float gross, float discount, float extras, float credit) {
+    const auto file = [&book](int slot, const char* in, std::array<float, 6> money) {
         AccountRecord& account = book.accounts[slot];
         account.receiptNumber.set(500 + slot);
         account.arrivalDate.set(in);
-        account.departureDate.set(out);
-        account.daysCharged.set(days);
-        account.catsBoarded.set(cats);
-        account.grossBoard.set(gross);
-        account.discountAmount.set(discount);
-        account.extrasAmount.set(extras);
-        account.creditAmount.set(credit);
-        account.finalBalance.set(gross - discount + extras - credit);
+        account.daysCharged.set(static_cast<int>(money[0]));
+        account.catsBoarded.set(static_cast<int>(money[1]));
+        account.grossBoard.set(money[2]);
+        account.discountAmount.set(money[3]);
+        account.extrasAmount.set(money[4]);
+        account.creditAmount.set(money[5]);
+        account.finalBalance.set(money[2] - money[3] + money[4] - money[5]);
     };
-    file(8, "28/02/25", "03/03/25", 3, 2, 60.0f, 6.0f, 5.5f, 10.0f);
-    file(9, "01/03/25", "11/03/25", 10, 1, 100.0f, 0.0f, 0.0f, 0.0f);
+    file(8, "28/02/25", {3, 2, 60.0f, 6.0f, 5.5f, 10.0f});
+    file(9, "01/03/25", {10, 1, 100.0f, 0, 0, 0});
     // The other clients' books hold nothing in 2025.
     for (const std::string& name : folder.namesWithExtension(".ACR"))
         fs::remove(data.root() / name);
