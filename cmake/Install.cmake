@@ -55,11 +55,14 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Purrlodge developers <purrlodge@example.org>")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-# dpkg-shlibdeps finds the Qt 6 libraries both programs link; the fonts are the
-# ones the screens and printouts ask for by name. The platform plugins Qt loads
-# at run time (xcb for the program, offscreen for purrlodge-cli's PDFs) are in
-# libqt6gui6, which brings what they link.
+# dpkg-shlibdeps finds the Qt 6 libraries both programs link. The platform
+# plugins Qt loads at run time (xcb for the program, offscreen for
+# purrlodge-cli's PDFs) are in libqt6gui6, which brings what they link. The
+# Liberation, DSEG and Blankenburg fonts are the ones the screens and printouts
+# ask for by name; DejaVu is the windows' own font: without it fontconfig
+# answers "sans-serif" with Liberation Mono on a system that has only the fonts
+# above, and every menu and label comes out in a typewriter face.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "fonts-liberation2, fonts-liberation, fonts-dseg, fonts-blankenburg")
+  "fonts-liberation2, fonts-liberation, fonts-dseg, fonts-blankenburg, fonts-dejavu-core")
 include(CPack)
