@@ -5,7 +5,7 @@ include(GNUInstallDirs)
 set(PURRLODGE_APP_ID org.purrlodge.Purrlodge)
 set(PURRLODGE_DATA_DIR ${PROJECT_SOURCE_DIR}/data)
 
-install(TARGETS purrlodge RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS purrlodge purrlodge-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PURRLODGE_DATA_DIR}/${PURRLODGE_APP_ID}.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${PURRLODGE_DATA_DIR}/${PURRLODGE_APP_ID}.metainfo.xml
@@ -20,6 +20,29 @@ foreach(size 48 64 128 256)
     RENAME ${PURRLODGE_APP_ID}.png)
 endforeach()
 
+# The manual pages, gzipped as Debian keeps them when gzip is at hand (-n: no
+# name or time stamp, so the package is the same on every build).
+find_program(PURRLODGE_GZIP gzip)
+foreach(page purrlodge.1 purrlodge-cli.1)
+  if(PURRLODGE_GZIP)
+    add_custom_command(OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${page}.gz
+      COMMAND ${PURRLODGE_GZIP} -9n -c ${PURRLODGE_DATA_DIR}/${page} > ${page}.gz
+      DEPENDS ${PURRLODGE_DATA_DIR}/${page}
+      WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
+    list(APPEND PURRLODGE_MAN_PAGES ${CMAKE_CURRENT_BINARY_DIR}/${page}.gz)
+  else()
+    list(APPEND PURRLODGE_MAN_PAGES ${PURRLODGE_DATA_DIR}/${page})
+  endif()
+endforeach()
+add_custom_target(purrlodge_man_pages ALL DEPENDS ${PURRLODGE_MAN_PAGES})
+install(FILES ${PURRLODGE_MAN_PAGES} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+# A systemd user service and timer for a nightly backup, for the person to copy
+# into ~/.config/systemd/user; nothing enables them.
+install(FILES ${PURRLODGE_DATA_DIR}/systemd/purrlodge-backup.service
+  ${PURRLODGE_DATA_DIR}/systemd/purrlodge-backup.timer
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/purrlodge/examples)
+
 set(CPACK_PACKAGE_NAME purrlodge)
 set(CPACK_PACKAGE_VENDOR "Purrlodge")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
@@ -32,9 +55,14 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Purrlodge developers <purrlodge@example.org>")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-# dpkg-shlibdeps finds the Qt 6 libraries the program links; the fonts are the
-# ones the screens and printouts ask for by name.
+# dpkg-shlibdeps finds the Qt 6 libraries both programs link. The platform
+# plugins Qt loads at run time (xcb for the program, offscreen for
+# purrlodge-cli's PDFs) are in libqt6gui6, which brings what they link. The
+# Liberation, DSEG and Blankenburg fonts are the ones the screens and printouts
+# ask for by name; DejaVu is the windows' own font: without it fontconfig
+# answers "sans-serif" with Liberation Mono on a system that has only the fonts
+# above, and every menu and label comes out in a typewriter face.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "fonts-liberation2, fonts-liberation, fonts-dseg, fonts-blankenburg")
+  "fonts-liberation2, fonts-liberation, fonts-dseg, fonts-blankenburg, fonts-dejavu-core")
 include(CPack)
