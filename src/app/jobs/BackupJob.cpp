@@ -120,7 +120,8 @@ JobOutcome runBackupJob(Session& session, const JobRequest& request, const JobOu
     const std::vector<std::string> present = filesInFolder(target);
     if (!present.empty() && !holdsIndexFile(present))
         return failed(target + " holds " + std::to_string(present.size()) +
-                      " files but no client list, so it is not a former backup and is not "
+                      (present.size() == 1 ? " file" : " files") +
+                      " but no client list, so it is not a former backup and is not "
                       "cleared: choose an empty folder or a former backup");
 
     const BackupScan scan = scanForBackup(session.folder, session.index);
