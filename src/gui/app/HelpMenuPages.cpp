@@ -2,75 +2,94 @@
 
 #include "app/commands/HelpPages.h"
 #include "gui/Text1252.h"
+#include "gui/app/TDlg20.h"
 
 namespace purrlodge {
 
-std::unique_ptr<HelpPage> newSetupHelpPage(QWidget* parent)
+namespace {
+
+// A plain page of the Help menu: its object name, title, text and width in
+// dialog units.
+struct PlainHelpPage {
+    const char16_t* objectName;
+    const char16_t* title;
+    const char16_t* text;
+    int width;
+};
+
+PlainHelpPage plainHelpPage(HelpTopic topic)
 {
-    return std::make_unique<HelpPage>(
-        QStringLiteral("setupHelpDialog"), QStringLiteral("Setup Help"),
-        QStringLiteral(
-            "Before you take your first booking, tell Purrlodge about your cattery. "
-            "Everything is on the Setup menu, and can be changed again at any time.\n\n"
-            "Cattery Details: your cattery's name, address and telephone, as printed on "
-            "accounts, and how long a vaccination stays valid.\n"
-            "Set Rates: what you charge a day for one, two or more cats, and your currency.\n"
-            "Euro Exchange Rate: the rate used to show a Sterling account in Euros as well "
-            "(offered only when your rates are in Sterling).\n"
-            "Set Standard Extra: a charge you often add to accounts, such as a bath.\n"
-            "Set Account Number: the number the next account starts from.\n"
-            "SetAccount Note: one line printed at the bottom of every account.\n"
-            "Set Auto Memo: a reminder about one client, shown when you make an arrival "
-            "sheet or an account for that client.\n"
-            "Set Printing Options and Print Dialog on/off: colour on printouts, and whether "
-            "Purrlodge asks which printer to use.\n"
-            "Setup Prnter: choose the printer and the paper.\n"
-            "Show Pic-Note indicator and Digital Clock: how the main window looks.\n"
-            "Change Data Set: use another data folder (see Help | Help on: | Change the Data "
-            "Directory).\n\n"
-            "Then enter your clients with Tasks | New Client. Keep a backup: Help | Backup "
-            "Advice tells you how."),
-        76, parent);
+    switch (topic) {
+    case HelpTopic::setupHelp:
+        return {u"setupHelpDialog", u"Setup Help",
+                u"Before you take your first booking, tell Purrlodge about your cattery. "
+                u"Everything is on the Setup menu, and can be changed again at any time.\n\n"
+                u"Cattery Details: your cattery's name, address and telephone, as printed on "
+                u"accounts, and how long a vaccination stays valid.\n"
+                u"Set Rates: what you charge a day for one, two or more cats, and your currency.\n"
+                u"Euro Exchange Rate: the rate used to show a Sterling account in Euros as well "
+                u"(offered only when your rates are in Sterling).\n"
+                u"Set Standard Extra: a charge you often add to accounts, such as a bath.\n"
+                u"Set Account Number: the number the next account starts from.\n"
+                u"SetAccount Note: one line printed at the bottom of every account.\n"
+                u"Set Auto Memo: a reminder about one client, shown when you make an arrival "
+                u"sheet or an account for that client.\n"
+                u"Set Printing Options and Print Dialog on/off: colour on printouts, and whether "
+                u"Purrlodge asks which printer to use.\n"
+                u"Setup Prnter: choose the printer and the paper.\n"
+                u"Show Pic-Note indicator and Digital Clock: how the main window looks.\n"
+                u"Change Data Set: use another data folder (see Help | Help on: | Change the Data "
+                u"Directory).\n\n"
+                u"Then enter your clients with Tasks | New Client. Keep a backup: Help | Backup "
+                u"Advice tells you how.",
+                76};
+    case HelpTopic::colourPrinting:
+        return {u"colourPrintingHelpDialog", u"Colour Printing",
+                u"With a colour printer, Purrlodge can print your cattery's name and a few "
+                u"important lines in colour. With a black-and-white printer everything comes out "
+                u"in black, whatever you choose.\n\n"
+                u"Choose Setup | Set Printing Options. Tick each printout that should be in colour "
+                u"(accounts, arrival sheets, lists and so on) and pick the colour for your "
+                u"cattery's name, or let Purrlodge pick a different colour each time. Untick them "
+                u"all to save colour ink.\n\n"
+                u"Setup | Print Dialog on/off decides whether Purrlodge asks which printer to use "
+                u"before it prints; Setup | Setup Prnter chooses the printer and the paper.\n\n"
+                u"When no printer is installed, every printout is saved as a PDF file in the "
+                u"\"Purrlodge Printouts\" folder of your Documents, in colour, and Purrlodge tells "
+                u"you where it is.",
+                60};
+    case HelpTopic::deletingAClient:
+        return {
+            u"deletingClientHelpDialog", u"Deleting a Client",
+            u"Choose Tasks | Delete Client (or its tool-bar button, a person with a red cross), "
+            u"find the client by name, and choose one of two ways:\n\n"
+            u"Transfer this client to the 'Hidden Clients' list: the client no longer appears "
+            u"among your clients, but nothing is thrown away. This is the safe choice for a "
+            u"client who has stopped coming. Tasks | View Past Clients lists them, and from "
+            u"there you can look at a client, bring one back with Restore Client, or remove "
+            u"one for good later.\n\n"
+            u"Permanently remove all this client's files: the client's record, cats, accounts, "
+            u"notes and memo are deleted. This cannot be undone, except by restoring a backup "
+            u"made before the deletion (and that brings back the whole data set as it was "
+            u"then).\n\n"
+            u"If you are not sure, transfer the client: you can always remove them later.",
+            60};
+    case HelpTopic::changeDataDirectory:
+        break;
+    }
+    return {};
 }
 
-std::unique_ptr<HelpPage> newColourPrintingHelpPage(QWidget* parent)
-{
-    return std::make_unique<HelpPage>(
-        QStringLiteral("colourPrintingHelpDialog"), QStringLiteral("Colour Printing"),
-        QStringLiteral(
-            "With a colour printer, Purrlodge can print your cattery's name and a few "
-            "important lines in colour. With a black-and-white printer everything comes out "
-            "in black, whatever you choose.\n\n"
-            "Choose Setup | Set Printing Options. Tick each printout that should be in colour "
-            "(accounts, arrival sheets, lists and so on) and pick the colour for your "
-            "cattery's name, or let Purrlodge pick a different colour each time. Untick them "
-            "all to save colour ink.\n\n"
-            "Setup | Print Dialog on/off decides whether Purrlodge asks which printer to use "
-            "before it prints; Setup | Setup Prnter chooses the printer and the paper.\n\n"
-            "When no printer is installed, every printout is saved as a PDF file in the "
-            "\"Purrlodge Printouts\" folder of your Documents, in colour, and Purrlodge tells "
-            "you where it is."),
-        60, parent);
-}
+} // namespace
 
-std::unique_ptr<HelpPage> newDeletingClientHelpPage(QWidget* parent)
+std::unique_ptr<QDialog> newHelpMenuPage(HelpTopic topic, QWidget* parent)
 {
-    return std::make_unique<HelpPage>(
-        QStringLiteral("deletingClientHelpDialog"), QStringLiteral("Deleting a Client"),
-        QStringLiteral(
-            "Choose Tasks | Delete Client (or its tool-bar button, a person with a red cross), "
-            "find the client by name, and choose one of two ways:\n\n"
-            "Transfer this client to the 'Hidden Clients' list: the client no longer appears "
-            "among your clients, but nothing is thrown away. This is the safe choice for a "
-            "client who has stopped coming. Tasks | View Past Clients lists them, and from "
-            "there you can look at a client, bring one back with Restore Client, or remove "
-            "one for good later.\n\n"
-            "Permanently remove all this client's files: the client's record, cats, accounts, "
-            "notes and memo are deleted. This cannot be undone, except by restoring a backup "
-            "made before the deletion (and that brings back the whole data set as it was "
-            "then).\n\n"
-            "If you are not sure, transfer the client: you can always remove them later."),
-        60, parent);
+    if (topic == HelpTopic::changeDataDirectory)
+        return std::make_unique<TDlg20>(parent);
+    const PlainHelpPage page = plainHelpPage(topic);
+    return std::make_unique<HelpPage>(QString::fromUtf16(page.objectName),
+                                      QString::fromUtf16(page.title), QString::fromUtf16(page.text),
+                                      page.width, parent);
 }
 
 std::unique_ptr<HelpPage> newEmergencyHelpPage(const EmergencyFacts& facts,

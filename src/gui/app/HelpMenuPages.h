@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include "app/commands/HelpPages.h"
 #include "gui/HelpPage.h"
 
 namespace purrlodge {
@@ -12,14 +13,9 @@ struct EmergencyFacts;
 
 // The plain help pages of the Help menu, each a HelpPage with a Close button.
 
-// Setup Help: what each item of the Setup menu is for.
-[[nodiscard]] std::unique_ptr<HelpPage> newSetupHelpPage(QWidget* parent);
-
-// Help on: Colour Printing.
-[[nodiscard]] std::unique_ptr<HelpPage> newColourPrintingHelpPage(QWidget* parent);
-
-// Help on: Deleting a Client.
-[[nodiscard]] std::unique_ptr<HelpPage> newDeletingClientHelpPage(QWidget* parent);
+// The page of a help topic: Setup Help, Colour Printing and Deleting a
+// Client are plain pages; Change the Data Directory has its own dialog.
+[[nodiscard]] std::unique_ptr<QDialog> newHelpMenuPage(HelpTopic topic, QWidget* parent);
 
 // Help on: Emergency!, naming this data set's folders and the settings file.
 [[nodiscard]] std::unique_ptr<HelpPage>

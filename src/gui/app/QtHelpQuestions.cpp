@@ -5,7 +5,6 @@
 #include "app/SettingsLocation.h"
 #include "gui/FrontWindow.h"
 #include "gui/app/HelpMenuPages.h"
-#include "gui/app/TDlg20.h"
 #include "gui/app/TDlgAbout.h"
 #include "gui/app/TDlgPictureNote.h"
 
@@ -18,23 +17,7 @@ QWidget* QtHelpQuestions::parent() const
 
 void QtHelpQuestions::showHelpPage(HelpTopic topic)
 {
-    std::unique_ptr<QDialog> page;
-    switch (topic) {
-    case HelpTopic::setupHelp:
-        page = newSetupHelpPage(parent());
-        break;
-    case HelpTopic::colourPrinting:
-        page = newColourPrintingHelpPage(parent());
-        break;
-    case HelpTopic::deletingAClient:
-        page = newDeletingClientHelpPage(parent());
-        break;
-    case HelpTopic::changeDataDirectory:
-        page = std::make_unique<TDlg20>(parent());
-        break;
-    }
-    if (page)
-        page->exec();
+    newHelpMenuPage(topic, parent())->exec();
 }
 
 void QtHelpQuestions::showEmergencyHelp(const EmergencyFacts& facts)
