@@ -73,6 +73,11 @@ std::optional<std::string> backupFolderOf(const Drives& drives, std::string_view
     return withTrailingSeparator(*root + std::string(folder));
 }
 
+std::optional<std::string> lastBackupFolder(const Drives& drives, const Profile& profile)
+{
+    return backupFolderOf(drives, profile.read("CurrentDrive"), backupFolderSetting(profile));
+}
+
 std::optional<Message> checkBackupOptions(BackupOptions& entries, std::uint64_t totalBytes,
                                           const std::string& dataFolder, const Drives& drives)
 {

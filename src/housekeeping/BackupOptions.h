@@ -60,6 +60,12 @@ inline constexpr std::string_view folderInstruction =
 [[nodiscard]] std::optional<std::string>
 backupFolderOf(const Drives& drives, std::string_view drive, std::string_view folder);
 
+// The folder Backup My Data last backed up to, from CurrentDrive and
+// DefBkDir; nothing before the first backup to a folder, or when its drive
+// is not set up on this machine.
+[[nodiscard]] std::optional<std::string> lastBackupFolder(const Drives& drives,
+                                                          const Profile& profile);
+
 // The checks behind OK, in order; the first that fails is the message to
 // show, and the dialog stays open. A floppy drive typed as the other drive
 // changes the entries: back to the floppy choice while the data would still

@@ -160,8 +160,7 @@ void restoreDataFromBackup(Session& session, BackupQuestions& questions)
 {
     Ports& ports = session.ports;
     const std::string drive = ports.profile.read("CurrentDrive");
-    const std::optional<std::string> source =
-        backupFolderOf(ports.drives, drive, backupFolderSetting(ports.profile));
+    const std::optional<std::string> source = lastBackupFolder(ports.drives, ports.profile);
     if (!source) {
         ports.ui.showMessage(
             {drive.empty() ? std::string("No backup has been made to a folder yet, so there is "

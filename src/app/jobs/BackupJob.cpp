@@ -40,17 +40,6 @@ private:
     const JobOutput& output_;
 };
 
-// The folder the program's Backup My Data last backed up to: CurrentDrive
-// and DefBkDir.
-std::optional<std::string> lastBackupFolder(const Session& session)
-{
-    const Profile& profile = session.ports.profile;
-    const std::string drive = profile.read("CurrentDrive");
-    if (drive.empty())
-        return std::nullopt;
-    return backupFolderOf(session.ports.drives, drive, backupFolderSetting(profile));
-}
-
 // The folder as an absolute path ending in the separator.
 std::string absoluteFolder(const std::string& folder)
 {
@@ -106,7 +95,8 @@ JobOutcome runBackupJob(Session& session, const JobRequest& request, const JobOu
     std::string target;
     if (!request.backupFolder.empty()) {
         target = absoluteFolder(request.backupFolder);
-    } else if (const std::optional<std::string> last = lastBackupFolder(session)) {
+    } else if (const std::optional<std::string> last =
+                   lastBackupFolder(session.ports.drives, session.ports.profile)) {
         target = *last;
     } else {
         return {jobExit::usage, "no backup has been made to a folder yet: give --to FOLDER"};
