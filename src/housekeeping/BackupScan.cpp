@@ -47,6 +47,18 @@ std::vector<std::string> filesInFolder(const std::string& folder)
     return names;
 }
 
+std::uint64_t bytesOfFiles(const std::string& folder, const std::vector<std::string>& names)
+{
+    std::uint64_t total = 0;
+    for (const std::string& name : names) {
+        std::error_code error;
+        const std::uintmax_t size = fs::file_size(nativePath(folder + name), error);
+        if (!error)
+            total += size;
+    }
+    return total;
+}
+
 bool holdsIndexFile(const std::vector<std::string>& names)
 {
     return std::any_of(names.begin(), names.end(),
@@ -56,10 +68,9 @@ bool holdsIndexFile(const std::vector<std::string>& names)
 BackupScan scanForBackup(const DataFolder& folder, const ClientIndex& index)
 {
     BackupScan scan;
-    for (const std::string& name : filesInFolder(folder.path())) {
-        ++scan.fileCount;
-        scan.totalBytes += folder.fileSize(name).value_or(0);
-    }
+    const std::vector<std::string> files = filesInFolder(folder.path());
+    scan.fileCount = static_cast<int>(files.size());
+    scan.totalBytes = bytesOfFiles(folder.path(), files);
     for (const std::string_view name :
          {establishmentFile, currentIndexFile, ratesFile, exchangeRateFile})
         addWhenReadable(folder, std::string(name), scan.backupList);

@@ -38,4 +38,9 @@ struct BackupScan {
 // file-name order.
 [[nodiscard]] std::vector<std::string> filesInFolder(const std::string& folder);
 
+// The sizes of the named files of a folder added up; a file that cannot be
+// measured counts nothing.
+[[nodiscard]] std::uint64_t bytesOfFiles(const std::string& folder,
+                                         const std::vector<std::string>& names);
+
 } // namespace purrlodge

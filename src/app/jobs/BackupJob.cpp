@@ -60,18 +60,6 @@ bool isWithin(const std::string& folder, const std::string& outer)
     return end == base.end() || (std::next(end) == base.end() && end->empty());
 }
 
-std::uint64_t bytesOf(const std::string& folder, const std::vector<std::string>& names)
-{
-    std::uint64_t total = 0;
-    for (const std::string& name : names) {
-        std::error_code error;
-        const std::uintmax_t size = fs::file_size(nativePath(folder + name), error);
-        if (!error)
-            total += size;
-    }
-    return total;
-}
-
 // The free bytes where the folder is or will be made: on its nearest
 // existing parent.
 std::optional<std::uint64_t> freeBytesFor(const Drives& drives, const std::string& folder)
@@ -117,7 +105,7 @@ JobOutcome runBackupJob(Session& session, const JobRequest& request, const JobOu
     const BackupScan scan = scanForBackup(session.folder, session.index);
     const std::optional<std::uint64_t> free = freeBytesFor(session.ports.drives, target);
     // The old backup's files make room as they are deleted.
-    if (free && *free + bytesOf(target, present) < scan.totalBytes)
+    if (free && *free + bytesOfFiles(target, present) < scan.totalBytes)
         return {jobExit::noRoom, "the backup needs " + std::to_string(scan.totalBytes) +
                                      " bytes, but only " + std::to_string(*free) +
                                      " are free for " + target + "; nothing was deleted"};
