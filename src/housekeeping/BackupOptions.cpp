@@ -73,6 +73,20 @@ std::optional<std::string> backupFolderOf(const Drives& drives, std::string_view
     return withTrailingSeparator(*root + std::string(folder));
 }
 
+std::optional<BackupOptions> driveAndFolderOf(const Drives& drives, const std::string& backupFolder)
+{
+    const std::string folder = withoutTrailingSeparators(backupFolder);
+    for (char letter = 'C'; letter <= 'Z'; ++letter) {
+        const std::optional<std::string> root = drives.rootOf(letter);
+        if (!root || !folder.starts_with(withTrailingSeparator(*root)))
+            continue;
+        const std::string name = folder.substr(withTrailingSeparator(*root).size());
+        if (isPlainFileName(name))
+            return BackupOptions{BackupMedium::OtherDrive, name, std::string(1, letter)};
+    }
+    return std::nullopt;
+}
+
 std::optional<std::string> lastBackupFolder(const Drives& drives, const Profile& profile)
 {
     return backupFolderOf(drives, profile.read("CurrentDrive"), backupFolderSetting(profile));

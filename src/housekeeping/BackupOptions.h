@@ -60,6 +60,13 @@ inline constexpr std::string_view folderInstruction =
 [[nodiscard]] std::optional<std::string>
 backupFolderOf(const Drives& drives, std::string_view drive, std::string_view folder);
 
+// The other way round: the drive letter and one-word folder name a backup
+// folder stands for (C to Z, the floppy drives never), so a backup made
+// elsewhere can be recorded as Backup My Data records its own; nothing when
+// no drive's root holds it directly.
+[[nodiscard]] std::optional<BackupOptions> driveAndFolderOf(const Drives& drives,
+                                                            const std::string& backupFolder);
+
 // The folder Backup My Data last backed up to, from CurrentDrive and
 // DefBkDir; nothing before the first backup to a folder, or when its drive
 // is not set up on this machine.

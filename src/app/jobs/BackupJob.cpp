@@ -123,7 +123,15 @@ JobOutcome runBackupJob(Session& session, const JobRequest& request, const JobOu
         return failed("the backup to " + target + " stopped after " +
                       std::to_string(result.filesCopied) + " of " + std::to_string(scan.fileCount) +
                       " files; the date of the last backup is unchanged");
-    if (!session.ports.profile.write("LastBkDate", std::to_string(session.ports.clock.now())))
+    // Recorded as Backup My Data records its own where a drive letter can
+    // name the folder, so Show Last Backup and Restore know of it.
+    Profile& profile = session.ports.profile;
+    if (const std::optional<BackupOptions> place = driveAndFolderOf(session.ports.drives, target);
+        place &&
+        (!profile.write("CurrentDrive", place->drive) || !profile.write("DefBkDir", place->folder)))
+        return failed("the backup to " + target +
+                      " is complete, but where it went could not be saved in the settings");
+    if (!profile.write("LastBkDate", std::to_string(session.ports.clock.now())))
         return failed("the backup to " + target +
                       " is complete, but the date of the last backup could not be saved");
     output.result(std::to_string(result.filesCopied) + " files backed up to " + target +

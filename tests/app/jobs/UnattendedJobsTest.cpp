@@ -134,10 +134,14 @@ TEST_F(UnattendedJobsTest, BackupCopiesWhatBackupMyDataCopiesAndSetsTheDateOfThe
                                  scanForBackup(DataFolder(data.path(), fakes.ui), {}).totalBytes) +
                              " bytes)"});
 
-    // Without --to: where Backup My Data last went.
-    fs::remove(fs::path(elsewhere.path()) / "Program" / "NRATES.RTS");
+    // A folder that drive D: names is recorded as Backup My Data records its
+    // own, and a backup without --to goes where the last one went.
+    EXPECT_EQ(fakes.profile.read("DefBkDir"), "Job");
+    fs::remove(fs::path(elsewhere.path()) / "Job" / "NRATES.RTS");
     EXPECT_EQ(run({"backup"}).exitCode, jobExit::done);
-    EXPECT_EQ(contentsOf(elsewhere.path() + "Program"), copied);
+    EXPECT_EQ(contentsOf(elsewhere.path() + "Job"), copied);
+    EXPECT_EQ(run({"backup", "--to", data.path() + "../Beside"}).exitCode, jobExit::done);
+    EXPECT_EQ(fakes.profile.read("DefBkDir"), "Job") << "no drive names the folder";
 }
 
 TEST_F(UnattendedJobsTest, ABackupThatCannotBeMadeWholeDeletesNothingAndLeavesTheDateAlone)
