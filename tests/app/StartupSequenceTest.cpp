@@ -169,7 +169,6 @@ TEST_F(StartupSequenceTest, AFullStartLoadsTheDataSetSortsTheIndexAndReadsTheTog
     EXPECT_EQ(onDisk.entries[1].key.str(), "Adams");
     EXPECT_EQ(session.shell.backupReminderMode, 7);
     EXPECT_EQ(session.shell.managerTypeSize, 3);
-    EXPECT_EQ(session.shell.pictureTable, picturePlacements);
     EXPECT_FALSE(session.shell.ratesUsable);
     EXPECT_TRUE(session.shell.digitalClock && !session.shell.pictureNoteIndicator);
 }

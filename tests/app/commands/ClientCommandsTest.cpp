@@ -130,8 +130,7 @@ TEST_F(ClientCommandsTest, AClientIsSavedUnderItsIndexCodeAndNeverWhereTheIndexC
 {
     addClient("Adams", "AdamsBob");
     addClient("Smith", "SmithAnn");
-    // Anne's record names Bob's code: editing her must not
-    // touch Bob's file.
+    // Anne's record names Bob's code: editing her must not touch Bob's file.
     ClientRecord anne{};
     readClientRecord(session.folder, "SmithAnn", anne);
     anne.code.set("AdamsBob");

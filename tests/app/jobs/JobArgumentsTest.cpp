@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "app/jobs/JobRequest.h"
 
@@ -13,14 +14,11 @@ TEST(JobArgumentsTest, OptionsStandAnywhereAndTakeTheirValueEitherWay)
         parseJobArguments({"account", "--verbose", "--number=1042", "--pdf", "out.pdf", "--data",
                            "/srv/cats", "--copy", "--client", "SmithAnn"});
     ASSERT_TRUE(parsed.request) << parsed.error;
-    const JobRequest& request = *parsed.request;
-    EXPECT_EQ(request.kind, JobKind::Account);
-    EXPECT_TRUE(request.verbose);
-    EXPECT_EQ(request.dataFolder, "/srv/cats");
-    EXPECT_EQ(request.accountNumber, 1042);
-    EXPECT_EQ(request.pdfFile, "out.pdf");
-    EXPECT_TRUE(request.accountCopy);
-    EXPECT_EQ(request.clientCode, "SmithAnn");
+    const JobRequest& r = *parsed.request;
+    EXPECT_EQ(
+        std::tie(r.kind, r.verbose, r.dataFolder, r.accountNumber, r.pdfFile, r.accountCopy,
+                 r.clientCode),
+        std::make_tuple(JobKind::Account, true, "/srv/cats", 1042, "out.pdf", true, "SmithAnn"));
 
     const ParsedArguments cats = parseJobArguments({"export", "addresses", "--style", "cats"});
     ASSERT_TRUE(cats.request);

@@ -125,7 +125,6 @@ TEST_F(UnattendedJobsTest, BackupCopiesWhatBackupMyDataCopiesAndSetsTheDateOfThe
 
     EXPECT_EQ(run({"backup", "--to", elsewhere.path() + "Job"}).exitCode, jobExit::done);
     const auto copied = contentsOf(elsewhere.path() + "Job");
-    EXPECT_EQ(copied.size(), filesInFolder(data.path()).size());
     EXPECT_EQ(copied, contentsOf(elsewhere.path() + "Program"));
     EXPECT_EQ(fakes.profile.read("LastBkDate"), std::to_string(fakes.clock.now()));
     EXPECT_EQ(results, Lines{std::to_string(copied.size()) + " files backed up to " +
