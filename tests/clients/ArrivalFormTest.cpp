@@ -83,28 +83,22 @@ TEST_F(ArrivalFormTest, TheVaccinationStatusIsTakenAgainstTheCatterysPeriodAndTo
 TEST_F(ArrivalFormTest, TheStayRecordIsWrittenWholeForANewStayAndAChangedOne)
 {
     ArrivalForm form = open(StayRecord{});
-    form.arrival = "28/11/26";
-    form.departure = "02/12/26";
-    form.arrivalRemark = "morning";
-    form.departureRemark = "4pm";
+    StayRecord expected{};
+    const auto enter = [&](std::string ArrivalForm::*entry, auto& field, const char* text) {
+        form.*entry = text;
+        field.set(text);
+    };
+    enter(&ArrivalForm::arrival, expected.arrivalDate, "28/11/26");
+    enter(&ArrivalForm::departure, expected.departureDate, "02/12/26");
+    enter(&ArrivalForm::arrivalRemark, expected.arrivalRemark, "morning");
+    enter(&ArrivalForm::departureRemark, expected.departureRemark, "4pm");
+    enter(&ArrivalForm::medication, expected.textLine1, "Ear drops");
+    enter(&ArrivalForm::feedingChanges, expected.textLine2, "No milk");
+    enter(&ArrivalForm::emergencyContact, expected.furtherLines[0], "Jo 07700 900123");
+    enter(&ArrivalForm::itemsBrought, expected.furtherLines[1], "Blue blanket");
+    enter(&ArrivalForm::vaccinationStatus, expected.dialogText, "Certs seen");
     form.cats[2].ticked = false;
     form.standardExtraWanted = true;
-    form.medication = "Ear drops";
-    form.feedingChanges = "No milk";
-    form.emergencyContact = "Jo 07700 900123";
-    form.itemsBrought = "Blue blanket";
-    form.vaccinationStatus = "Certs seen";
-
-    StayRecord expected{};
-    expected.arrivalDate.set("28/11/26");
-    expected.departureDate.set("02/12/26");
-    expected.arrivalRemark.set("morning");
-    expected.departureRemark.set("4pm");
-    expected.textLine1.set("Ear drops");
-    expected.textLine2.set("No milk");
-    expected.furtherLines[0].set("Jo 07700 900123");
-    expected.furtherLines[1].set("Blue blanket");
-    expected.dialogText.set("Certs seen");
     expected.arrivalWeekday.set("Saturday");
     expected.departureWeekday.set("Wednesday");
     expected.catInStay[0].set(1);
@@ -122,9 +116,8 @@ TEST_F(ArrivalFormTest, TheStayRecordIsWrittenWholeForANewStayAndAChangedOne)
     earlier.unused1[3] = 9;
     earlier.furtherLines[2].set("old line");
     earlier.standardExtraChosen[1].set(1);
-    form.departure = "01/12/26";
+    enter(&ArrivalForm::departure, expected.departureDate, "01/12/26");
     rates.perDay.set(0);
-    expected.departureDate.set("01/12/26");
     expected.departureWeekday.set("Tuesday");
     expected.length.set(3);
     expected.number.set(7);
