@@ -80,20 +80,25 @@ TEST_F(CommandLineTest, AJobRunsWithNoDisplayAndSaysWhatItDidOnStandardOutput)
 
 TEST_F(CommandLineTest, AFailureEndsWithOneLineAndItsExitCode)
 {
-    const Finished missing = run("--data /no/such/cattery export emails");
-    EXPECT_EQ(missing.exitCode, jobExit::dataSetUnusable);
-    EXPECT_EQ(missing.err, "purrlodge-cli: the data folder /no/such/cattery/ does not exist\n");
-    EXPECT_EQ(missing.out, "");
-
-    const Finished wrong = run("export phones");
-    EXPECT_EQ(wrong.exitCode, jobExit::usage);
-    EXPECT_EQ(wrong.err, "purrlodge-cli: export knows addresses and emails, not phones "
-                         "(purrlodge-cli --help for more)\n");
-
-    const Finished unwritable = run("account --number 1002 --pdf /no/such/folder/a.pdf");
-    EXPECT_EQ(unwritable.exitCode, jobExit::failed);
-    EXPECT_EQ(unwritable.err,
-              "purrlodge-cli: the account could not be written to /no/such/folder/a.pdf\n");
+    const struct {
+        std::string arguments;
+        int exitCode;
+        std::string err;
+    } cases[] = {
+        {"--data /no/such/cattery export emails", jobExit::dataSetUnusable,
+         "purrlodge-cli: the data folder /no/such/cattery/ does not exist\n"},
+        {"export phones", jobExit::usage,
+         "purrlodge-cli: export knows addresses and emails, not phones "
+         "(purrlodge-cli --help for more)\n"},
+        {"account --number 1002 --pdf /no/such/folder/a.pdf", jobExit::failed,
+         "purrlodge-cli: the account could not be written to /no/such/folder/a.pdf\n"},
+    };
+    for (const auto& c : cases) {
+        const Finished failed = run(c.arguments);
+        EXPECT_EQ(failed.exitCode, c.exitCode) << c.arguments;
+        EXPECT_EQ(failed.err, c.err);
+        EXPECT_EQ(failed.out, "") << c.arguments;
+    }
 }
 
 } // namespace

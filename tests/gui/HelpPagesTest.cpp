@@ -1,5 +1,4 @@
 #include <QLabel>
-#include <QMenu>
 
 #include "app/PictureNotes.h"
 #include "gui/ShellFixture.h"
@@ -12,14 +11,6 @@ using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Opens the Help menu as a person does, which runs its enablers.
-void openHelpMenu(TMyWindow& window)
-{
-    auto* menu = window.findChild<QMenu*>(u"helpMenu"_s);
-    menu->popup(QPoint(0, 0));
-    menu->hide();
-}
 
 QString labelText(QWidget* dialog, const QString& name)
 {
@@ -51,7 +42,7 @@ private slots:
             QCOMPARE(shell.profile.read("musnotes"), indicatorOn ? "Y" : "N");
             for (const auto& [picture, hasNote] : {std::pair{3, true}, std::pair{2, false}}) {
                 state.pictureIndex = picture;
-                openHelpMenu(shell.window);
+                shell.openAndClose(u"helpMenu"_s);
                 QCOMPARE(seeNotes->isEnabled(), hasNote);
                 QCOMPARE(shell.window.clockFace()->showsPictureNoteIndicator(),
                          hasNote && indicatorOn);
@@ -59,7 +50,7 @@ private slots:
         }
 
         state.pictureIndex = 3;
-        openHelpMenu(shell.window);
+        shell.openAndClose(u"helpMenu"_s);
         ModalAnswers answers({[](QWidget* dialog) {
             QVERIFY(!child<QLabel>(dialog, u"pictureLabel"_s)->pixmap().isNull());
             QVERIFY(!labelText(dialog, u"noteLabel"_s).isEmpty());
@@ -83,21 +74,19 @@ private slots:
             QVERIFY(!QLatin1String(programVersion).isEmpty());
             press(QDialogButtonBox::Ok)(dialog);
         };
+        const auto close = press(QDialogButtonBox::Close);
         const std::vector<std::pair<int, ModalAnswers::Answer>> items{
-            {command::setupHelp, press(QDialogButtonBox::Close)},
-            {command::backupAdvice, press(QDialogButtonBox::Close)},
-            {command::colourPrintingHelp, press(QDialogButtonBox::Close)},
-            {command::deletingAClientHelp, press(QDialogButtonBox::Close)},
-            {command::changeDataDirectoryHelp, press(QDialogButtonBox::Close)},
+            {command::setupHelp, close},
+            {command::backupAdvice, close},
+            {command::colourPrintingHelp, close},
+            {command::deletingAClientHelp, close},
+            {command::changeDataDirectoryHelp, close},
             {command::emergencyHelp, emergency},
-            {command::about, aboutBox},
-        };
+            {command::about, aboutBox}};
         QStringList titles;
         for (const auto& [commandId, answer] : items) {
             ModalAnswers answers({answer});
-            QAction* item = shell.window.actionsFor(commandId).first();
-            QVERIFY2(item->isEnabled(), qPrintable(item->objectName()));
-            item->trigger();
+            shell.trigger(commandId);
             titles.append(answers.seen());
         }
         QCOMPARE(titles.join(u", "_s),

@@ -1,7 +1,6 @@
 #include <fstream>
 
 #include <QListWidget>
-#include <QMenu>
 #include <QSignalSpy>
 #include <QToolBar>
 
@@ -11,18 +10,6 @@
 using namespace purrlodge;
 using namespace purrlodge::testing;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Shows a menu as a person opens it (which runs the enablers), then closes it.
-void openAndClose(TMyWindow& window, const QString& menuName)
-{
-    auto* menu = window.findChild<QMenu*>(menuName);
-    menu->popup(QPoint(0, 0));
-    menu->hide();
-}
-
-} // namespace
 
 class MainWindowTest : public QObject {
     Q_OBJECT
@@ -39,6 +26,12 @@ private slots:
             press(QDialogButtonBox::Cancel)(d);
         };
         const auto cancel = press(QDialogButtonBox::Cancel);
+        const auto deleteBy = [](const QString& choice) {
+            return [choice](QWidget* d) {
+                button(d, choice)->click();
+                clickLater(button(d, u"doItButton"_s));
+            };
+        };
         ModalAnswers answers({
             typeName(u"Tibbles"_s),
             pressOk,
@@ -72,17 +65,11 @@ private slots:
             press(QDialogButtonBox::Close), // past accounts
             typeName(u"Nguyen"_s),
             pressOk,
-            [](QWidget* d) {
-                button(d, u"removeRadioButton"_s)->click();
-                clickLater(button(d, u"doItButton"_s));
-            },
+            deleteBy(u"removeRadioButton"_s),
             press(QDialogButtonBox::No), // Remove Client
             typeName(u"Nguyen"_s),
             pressOk,
-            [](QWidget* d) {
-                button(d, u"transferRadioButton"_s)->click();
-                clickLater(button(d, u"doItButton"_s));
-            },
+            deleteBy(u"transferRadioButton"_s),
             [](QWidget* d) {
                 child<QListWidget>(d, u"pastClientsList"_s)->setCurrentRow(0);
                 clickLater(button(d, u"detailsButton"_s));
@@ -124,16 +111,15 @@ private slots:
     {
         ShellFixture shell;
         // Nothing is pending to print yet.
-        for (const int waiting : {command::runPendingPrintout})
-            for (const QAction* action : shell.window.actionsFor(waiting))
-                QVERIFY2(!action->isEnabled(), qPrintable(action->objectName()));
+        for (const QAction* action : shell.window.actionsFor(command::runPendingPrintout))
+            QVERIFY2(!action->isEnabled(), qPrintable(action->objectName()));
 
         QAction* euro = shell.window.actionsFor(command::euroExchangeRate).first();
         shell.session.rates.currency.set(static_cast<std::uint32_t>(Currency::Euros));
-        openAndClose(shell.window, u"setupMenu"_s);
+        shell.openAndClose(u"setupMenu"_s);
         QVERIFY(!euro->isEnabled());
         shell.session.rates.currency.set(static_cast<std::uint32_t>(Currency::Sterling));
-        openAndClose(shell.window, u"setupMenu"_s);
+        shell.openAndClose(u"setupMenu"_s);
         QVERIFY(euro->isEnabled());
 
         // A toggle's tick flips as it runs.

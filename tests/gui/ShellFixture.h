@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include <QMenu>
 #include <QTemporaryDir>
 
 #include "app/CommandIds.h"
@@ -36,6 +37,14 @@ struct ShellFixture {
 
     // Runs a command as its first menu item or tool-bar button would.
     void trigger(int commandId) { window.actionsFor(commandId).first()->trigger(); }
+
+    // Shows a menu as a person opens it (which runs its enablers), then closes it.
+    void openAndClose(const QString& menuName)
+    {
+        auto* menu = window.findChild<QMenu*>(menuName);
+        menu->popup(QPoint(0, 0));
+        menu->hide();
+    }
 
     // A client of Ann's with the given surname and cats, saved as New Client saves one.
     ClientRecord addClient(const std::string& surname, std::initializer_list<const char*> cats)
