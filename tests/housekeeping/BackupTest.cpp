@@ -192,11 +192,10 @@ TEST_F(FloppyBackupTest, AShortDiscIsRefusedUntilAGoodOneIsInThenClearedAndFille
 
     EXPECT_EQ(result.outcome, CopyOutcome::Done);
     EXPECT_EQ(result.filesCopied, 2);
-    ASSERT_EQ(questions.badFloppyTexts.size(), 1u);
-    EXPECT_EQ(questions.badFloppyTexts[0],
-              "Your floppy disc seems to have surface errors. It should have 1.44 MB of free space "
-              "but only has 1.373 MB.  You can not use this disc so please insert a new Floppy "
-              "Disc!");
+    EXPECT_EQ(questions.badFloppyTexts,
+              Names{"Your floppy disc seems to have surface errors. It should have 1.44 MB of free "
+                    "space but only has 1.373 MB.  You can not use this disc so please insert a "
+                    "new Floppy Disc!"});
     EXPECT_EQ(fakes.ui.messages[0], (Message{"Please insert disc number-1", "Backup Disc Number"}));
     EXPECT_EQ(namesIn(disc), Names{"BACKUP"});
     EXPECT_EQ(namesIn(disc / "BACKUP"), (Names{"NESTAB.DAT", "SmithA.DAT"}));

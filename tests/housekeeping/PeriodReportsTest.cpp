@@ -71,22 +71,15 @@ TEST_F(PeriodReportsTest, CountsBothEndsOfThePeriodAndMonthsAcrossTheYearEnd)
                {"14/01/25", 2, 1, 40.0f},
                {"15/01/25", 9, 1, 2.0f}});
     const PeriodFigures figures = gather("15/12/24", "14/01/25");
+    // Gross board is set equal to the balance; nothing else is charged.
     ASSERT_EQ(figures.months.size(), 2u);
     const MonthFigures& december = figures.months[0];
     const MonthFigures& january = figures.months[1];
+    EXPECT_EQ(december, (MonthFigures{2024, 12, 17, 2, 3000, 0, 0, 0, 3000, 3 * 2 + 4 * 1}));
+    EXPECT_EQ(january, (MonthFigures{2025, 1, 14, 2, 7000, 0, 0, 0, 7000, 5 * 3 + 2 * 1}));
     EXPECT_EQ(monthLabel(december), "Dec 2024");
     EXPECT_EQ(monthLabel(january), "Jan 2025");
-    EXPECT_EQ(december.daysInPeriod, 17);
-    EXPECT_EQ(january.daysInPeriod, 14);
-    EXPECT_EQ(december.accounts, 2);
-    EXPECT_EQ(january.accounts, 2);
-    EXPECT_EQ(december.balances, 3000);
-    EXPECT_EQ(january.balances, 7000);
-    EXPECT_EQ(december.catDays, 3 * 2 + 4 * 1);
-    EXPECT_EQ(january.catDays, 5 * 3 + 2 * 1);
-    EXPECT_EQ(figures.totals.accounts, 4);
-    EXPECT_EQ(figures.totals.daysInPeriod, 31);
-    EXPECT_EQ(figures.totals.catDays, 27);
+    EXPECT_EQ(figures.totals, (MonthFigures{0, 0, 31, 4, 10000, 0, 0, 0, 10000, 27}));
     EXPECT_EQ(occupancyHundredths(december), 59) << "10 cat-days over 17 days";
     EXPECT_EQ(occupancyHundredths(january), 121) << "17 cat-days over 14 days";
 
@@ -167,19 +160,14 @@ TEST_F(PeriodReportsTest, AddsUpAFullDataSetAsTheBooksHoldIt)
             cash += std::llround(account.finalBalance.get() * 100.0);
         }
     }
-    MonthFigures sum;
     for (const MonthFigures& month : figures.months) {
         MonthFigures want = expected[month.month];
         want.year = 2024;
         want.month = month.month;
         want.daysInPeriod = monthLength(month.month, true);
         EXPECT_EQ(month, want) << month.month;
-        sum.balances += month.balances;
-        sum.accounts += month.accounts;
     }
     EXPECT_EQ(figures.totals.accounts, maxClients * accountBookSlots);
-    EXPECT_EQ(sum.accounts, figures.totals.accounts);
-    EXPECT_EQ(sum.balances, figures.totals.balances);
     EXPECT_EQ(figures.totals.balances, cash);
     EXPECT_GT(figures.totals.discounts, 0);
     EXPECT_EQ(figures.clients.size(), std::size_t{maxClients});
@@ -196,23 +184,15 @@ TEST(ReportPeriodCheck, TakesGoodDatesAndExplainsBadOnes)
     EXPECT_FALSE(reportPeriodError(period, 2025));
     EXPECT_EQ(period, (ReportPeriod{"01/02/25", "28/02/25"}));
 
-    ReportPeriod sameDay{"05/05/25", "05/05/25"};
-    EXPECT_FALSE(reportPeriodError(sameDay, 2025));
-
-    ReportPeriod backwards{"05/05/25", "04/05/25"};
-    const auto ends = reportPeriodError(backwards, 2025);
-    ASSERT_TRUE(ends);
-    EXPECT_NE(ends->text.find("ends before it starts"), std::string::npos);
-
-    ReportPeriod badDay{"30/02/25", "01/03/25"};
-    const auto day = reportPeriodError(badDay, 2025);
-    ASSERT_TRUE(day);
-    EXPECT_EQ(day->text, "The date does not exist in that month !\n(the From date)");
-
-    ReportPeriod noSlashes{"01/03/25", "0103"};
-    const auto slashes = reportPeriodError(noSlashes, 2025);
-    ASSERT_TRUE(slashes);
-    EXPECT_EQ(slashes->text, "Please type the To date as dd/mm/yy.");
+    const auto verdict = [](ReportPeriod typed) {
+        const auto error = reportPeriodError(typed, 2025);
+        return error ? error->text : std::string("accepted");
+    };
+    EXPECT_EQ(verdict({"05/05/25", "05/05/25"}), "accepted");
+    EXPECT_NE(verdict({"05/05/25", "04/05/25"}).find("ends before it starts"), std::string::npos);
+    EXPECT_EQ(verdict({"30/02/25", "01/03/25"}),
+              "The date does not exist in that month !\n(the From date)");
+    EXPECT_EQ(verdict({"01/03/25", "0103"}), "Please type the To date as dd/mm/yy.");
 }
 
 } // namespace
